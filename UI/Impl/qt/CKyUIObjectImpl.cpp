@@ -1,0 +1,18 @@
+#include "UI/Impl/CKyUIObjectImpl.h"
+
+#include "UI/CKyUIObject.h"
+
+#include <QtCore/QObject>
+
+void CKyUIObjectImpl::SetObjectNameImpl(const QString& name)
+{
+    m_owner->getHandle()->setObjectName(name);
+}
+
+bool CKyUIObjectImpl::SetPropertyImpl(const char* name, const QVariant& value)
+{
+    QObject* handle = m_owner->getHandle();
+    if (!handle)
+        return false;
+    return handle->setProperty(name, value);
+}
