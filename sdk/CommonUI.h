@@ -1,0 +1,9 @@
+#pragma once
+
+// Every public header of the library.
+
+#include "UI/CKyUIBaseView.h"
+#include "UI/CKyUIEvent.h"
+#include "UI/CKyUIHorizontalLayout.h"
+#include "UI/CKyUIObject.h"
+#include "UI/CKyUIVerticalLayout.h"
