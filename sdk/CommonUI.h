@@ -3,3 +3,8 @@
 // Every public header of the library.
 
 #include "NA/CKyNANetworkRequest.h"
+#include "UI/CKyUIBaseView.h"
+#include "UI/CKyUIEvent.h"
+#include "UI/CKyUIHorizontalLayout.h"
+#include "UI/CKyUIObject.h"
+#include "UI/CKyUIVerticalLayout.h"

@@ -52,6 +52,14 @@ protected:
     // constructors.
     void setImpl(CKyUIObjectImpl* impl);
 
+    // The implementation as the concrete class's own type, which the concrete
+    // class knows it created.
+    template <class Impl>
+    Impl* implAs() const
+    {
+        return static_cast<Impl*>(impl());
+    }
+
 private:
     CKyUIObjectImpl* m_impl;
     CKyUIObjectData* m_data;

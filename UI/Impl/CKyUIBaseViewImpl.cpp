@@ -1,0 +1,100 @@
+#include "UI/Impl/CKyUIBaseViewImpl.h"
+
+#include "UI/CKyUIObject.h"
+#include "UI/Impl/KyBaseViewImpl.h"
+
+CKyUIBaseViewImpl::CKyUIBaseViewImpl(CKyUIObject* owner)
+    : CKyUIObjectImpl(owner)
+{
+}
+
+CKyUIBaseViewImpl::~CKyUIBaseViewImpl() = default;
+
+QString CKyUIBaseViewImpl::GetFrontendClassName()
+{
+    return QString();
+}
+
+void CKyUIBaseViewImpl::CreateFrontendControl()
+{
+    const QString className = GetFrontendClassName();
+    if (!className.isEmpty())
+        owner()->setHandle(KyBaseViewImpl::CreateFrontendControl(className, owner()));
+}
+
+void CKyUIBaseViewImpl::AddViewImpl(CKyUIBaseView*, float)
+{
+}
+
+void CKyUIBaseViewImpl::InsertViewImpl(CKyUIBaseView*, int, float)
+{
+}
+
+void CKyUIBaseViewImpl::RemoveViewImpl(CKyUIBaseView*)
+{
+}
+
+void CKyUIBaseViewImpl::SetEnabled(bool enabled)
+{
+    m_enabled = enabled;
+    SetEnabledImpl(enabled);
+}
+
+void CKyUIBaseViewImpl::OnSizeChanged(int width, int height)
+{
+    m_width = width;
+    m_height = height;
+}
+
+void CKyUIBaseViewImpl::AddStyleClassImpl(const QString&, bool)
+{
+}
+
+void CKyUIBaseViewImpl::RemoveStyleClassImpl(const QString&, bool)
+{
+}
+
+void CKyUIBaseViewImpl::SetVisible(bool visible)
+{
+    m_visible = visible;
+    SetVisibleImpl(visible);
+}
+
+void CKyUIBaseViewImpl::SetPreferableSize(int width, int height)
+{
+    m_width = width;
+    m_height = height;
+    m_preferableWidth = width;
+    m_preferableHeight = height;
+    SetPreferrableSizeImpl(width, height);
+}
+
+void CKyUIBaseViewImpl::SetPalette(const QPalette& palette)
+{
+    m_palette = palette;
+    // A disabled view keeps the palette for later but shows nothing of it;
+    // enabling the view does not apply it either.
+    if (!m_enabled)
+        return;
+    if (palette.isBrushSet(QPalette::Current, QPalette::Base)) {
+        const QColor color = palette.color(QPalette::Current, QPalette::Base);
+        SetBackgroundColorImpl(color.red(), color.green(), color.blue());
+    }
+    if (palette.isBrushSet(QPalette::Current, QPalette::Text)) {
+        const QColor color = palette.color(QPalette::Current, QPalette::Text);
+        SetTextColorImpl(color.red(), color.green(), color.blue());
+    }
+    // The alternate base colour of a palette is the border colour of a view.
+    if (palette.isBrushSet(QPalette::Current, QPalette::AlternateBase)) {
+        const QColor color = palette.color(QPalette::Current, QPalette::AlternateBase);
+        SetBorderColorImpl(color.red(), color.green(), color.blue());
+    }
+}
+
+void CKyUIBaseViewImpl::SetPreferrableSizeImpl(int, int)
+{
+}
+
+void CKyUIBaseViewImpl::SetCornerRadiusImpl(float)
+{
+}

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "UI/Impl/CKyUIObjectImpl.h"
+
+#include <QtGui/QPalette>
+
+class CKyUIBaseView;
+class QWidget;
+
+// Base of every view implementation. Keeps the view's own record of size,
+// flags and palette; getters answer from it, not from the widget.
+class CKyUIBaseViewImpl : public CKyUIObjectImpl
+{
+public:
+    explicit CKyUIBaseViewImpl(CKyUIObject* owner);
+    ~CKyUIBaseViewImpl() override;
+
+    QString GetFrontendClassName() override;
+    void CreateFrontendControl() override;
+
+    // Containers and layouts place child views in their toolkit layout here.
+    virtual void AddViewImpl(CKyUIBaseView* view, float stretch);
+    virtual void InsertViewImpl(CKyUIBaseView* view, int index, float stretch);
+    virtual void RemoveViewImpl(CKyUIBaseView* view);
+    virtual void SetEnabled(bool enabled);
+    virtual void OnSizeChanged(int width, int height);
+    virtual void UpdateImpl();
+    virtual void AddStyleClassImpl(const QString& name, bool value);
+    virtual void RemoveStyleClassImpl(const QString& name, bool value);
+
+    // Bookkeeping; each setter stores first, then calls its toolkit step.
+    void SetVisible(bool visible);
+    bool IsVisible() const { return m_visible; }
+    bool IsEnabled() const { return m_enabled; }
+    bool HasFocus() const { return m_hasFocus; }
+    int Width() const { return m_width; }
+    int Height() const { return m_height; }
+    void SetWidth(int width) { m_width = width; }
+    void SetHeight(int height) { m_height = height; }
+    void SetPreferableSize(int width, int height);
+    int PreferableWidth() const { return m_preferableWidth; }
+    int PreferableHeight() const { return m_preferableHeight; }
+    void SetPalette(const QPalette& palette);
+    const QPalette& Palette() const { return m_palette; }
+
+    // Toolkit steps; each does nothing unless the handle is a widget.
+    void SetEnabledImpl(bool enabled);
+    void SetVisibleImpl(bool visible);
+    void SetMinimumWidthImpl(int width);
+    void SetMinimumHeightImpl(int height);
+    void SetMaximumWidthImpl(int width);
+    void SetMaximumHeightImpl(int height);
+    void SetFocusImpl();
+    void SetFocusPolicyImpl(int policy);
+    void SetTabOrderImpl(CKyUIObject* first, CKyUIObject* second);
+    void SetPreferrableSizeImpl(int width, int height);
+    void SetCornerRadiusImpl(float radius);
+    void SetBorderWidthImpl(float width);
+    void SetBorderWidthImpl(float left, float top, float right, float bottom);
+    void SetBorderColorImpl(int red, int green, int blue);
+    void SetBackgroundColorImpl(int red, int green, int blue);
+    void SetTextColorImpl(int red, int green, int blue);
+
+    // The owner's handle as a widget, or null when it is none.
+    QWidget* GetWidget() const;
+    // Any object's handle as a widget, or null when it is none.
+    static QWidget* WidgetOf(const CKyUIObject* object);
+
+private:
+    QPalette m_palette;
+    bool m_visible = false;
+    bool m_enabled = true;
+    bool m_hasFocus = false;
+    int m_width = 0;
+    int m_height = 0;
+    int m_preferableWidth = 0;
+    int m_preferableHeight = 0;
+};

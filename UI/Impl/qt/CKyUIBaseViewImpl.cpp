@@ -1,0 +1,152 @@
+#include "UI/Impl/CKyUIBaseViewImpl.h"
+
+#include "UI/CKyUIObject.h"
+#include "UI/Impl/qt/StyleSheetRewriter.h"
+
+#include <QtGui/QColor>
+#include <QtWidgets/QWidget>
+
+namespace
+{
+QString ColorName(int red, int green, int blue)
+{
+    QColor color;
+    color.setRgb(red, green, blue, 255);
+    return color.name();
+}
+
+using StyleSheetRewriter::Insertion;
+
+// Shared by the border rules: a shorthand "border: ...;" and a lone style
+// declaration go, earlier width declarations stay.
+constexpr const char* kBorderShorthand = "border[ \t]*:[ \t]*[1-9a-zA-Z \t]*;";
+constexpr const char* kBorderStyle = "border-style[ \t]*:[ \t]*[1-9a-zA-Z \t]*;";
+constexpr const char* kBorderSideStyle = "border-[a-z]*-style[ \t]*:[ \t]*[1-9a-zA-Z \t]*;";
+constexpr const char* kBorderLeftWidth = "border-left-width[ \t]*:[ \t]*[1-9a-zA-Z]*;";
+constexpr const char* kBorderTopWidth = "border-top-width[ \t]*:[ \t]*[1-9a-zA-Z]*;";
+constexpr const char* kBorderRightWidth = "border-right-width[ \t]*:[ \t]*[1-9a-zA-Z]*;";
+constexpr const char* kBorderBottomWidth = "border-bottom-width[ \t]*:[ \t]*[1-9a-zA-Z]*;";
+// Matches a value of exactly one character only, so an earlier colour stays.
+constexpr const char* kBorderColor = "border-color[ \t]*:[ \t]*[1-9a-zA-Z];";
+constexpr const char* kBackgroundColor = "background-color[ \t]*:[ \t#a-zA-Z1-9]*;";
+} // namespace
+
+QWidget* CKyUIBaseViewImpl::WidgetOf(const CKyUIObject* object)
+{
+    QObject* handle = object ? object->getHandle() : nullptr;
+    return handle && handle->isWidgetType() ? static_cast<QWidget*>(handle) : nullptr;
+}
+
+QWidget* CKyUIBaseViewImpl::GetWidget() const
+{
+    return WidgetOf(owner());
+}
+
+void CKyUIBaseViewImpl::UpdateImpl()
+{
+    if (QWidget* widget = GetWidget())
+        widget->update();
+}
+
+void CKyUIBaseViewImpl::SetEnabledImpl(bool enabled)
+{
+    if (QWidget* widget = GetWidget())
+        widget->setEnabled(enabled);
+}
+
+void CKyUIBaseViewImpl::SetVisibleImpl(bool visible)
+{
+    if (QWidget* widget = GetWidget())
+        widget->setVisible(visible);
+}
+
+void CKyUIBaseViewImpl::SetMinimumWidthImpl(int width)
+{
+    if (QWidget* widget = GetWidget())
+        widget->setMinimumWidth(width);
+}
+
+void CKyUIBaseViewImpl::SetMinimumHeightImpl(int height)
+{
+    if (QWidget* widget = GetWidget())
+        widget->setMinimumHeight(height);
+}
+
+void CKyUIBaseViewImpl::SetMaximumWidthImpl(int width)
+{
+    if (QWidget* widget = GetWidget())
+        widget->setMaximumWidth(width);
+}
+
+void CKyUIBaseViewImpl::SetMaximumHeightImpl(int height)
+{
+    if (QWidget* widget = GetWidget())
+        widget->setMaximumHeight(height);
+}
+
+void CKyUIBaseViewImpl::SetFocusImpl()
+{
+    if (QWidget* widget = GetWidget())
+        widget->setFocus(Qt::OtherFocusReason);
+}
+
+void CKyUIBaseViewImpl::SetFocusPolicyImpl(int policy)
+{
+    if (QWidget* widget = GetWidget())
+        widget->setFocusPolicy(static_cast<Qt::FocusPolicy>(policy));
+}
+
+void CKyUIBaseViewImpl::SetTabOrderImpl(CKyUIObject* first, CKyUIObject* second)
+{
+    QWidget* firstWidget = WidgetOf(first);
+    QWidget* secondWidget = WidgetOf(second);
+    if (firstWidget && secondWidget)
+        QWidget::setTabOrder(firstWidget, secondWidget);
+}
+
+void CKyUIBaseViewImpl::SetBorderWidthImpl(float width)
+{
+    static const QList<QRegExp> removals = StyleSheetRewriter::Patterns({kBorderShorthand,  kBorderStyle,      kBorderLeftWidth,
+                                            kBorderTopWidth,   kBorderRightWidth, kBorderBottomWidth});
+    const QString declaration =
+        QStringLiteral("border-style:solid;border-width:%1px;").arg(static_cast<double>(width));
+    StyleSheetRewriter::Apply(GetWidget(), removals, declaration, Insertion::BeforeLastBraceAfterStart);
+}
+
+void CKyUIBaseViewImpl::SetBorderWidthImpl(float left, float top, float right, float bottom)
+{
+    static const QList<QRegExp> removals = StyleSheetRewriter::Patterns({kBorderShorthand, kBorderStyle,      kBorderSideStyle,
+                                            kBorderLeftWidth, kBorderTopWidth,   kBorderRightWidth,
+                                            kBorderBottomWidth});
+    const auto number = [](float value) { return QString::number(static_cast<double>(value), 'g', 6); };
+    const QString declaration =
+        QStringLiteral("border-left-style:solid;border-top-style:solid;border-right-style:solid;"
+                       "border-bottom-style:solid;border-left-width:%1px;border-top-width:%2px;"
+                       "border-right-width:%3px;border-bottom-width:%4px;")
+            .arg(number(left), number(top), number(right), number(bottom));
+    StyleSheetRewriter::Apply(GetWidget(), removals, declaration, Insertion::BeforeLastBraceAfterStart);
+}
+
+void CKyUIBaseViewImpl::SetBorderColorImpl(int red, int green, int blue)
+{
+    static const QList<QRegExp> removals = StyleSheetRewriter::Patterns({kBorderShorthand, kBorderColor});
+    const QString declaration = QStringLiteral("border-color: %1;").arg(ColorName(red, green, blue));
+    StyleSheetRewriter::Apply(GetWidget(), removals, declaration, Insertion::BeforeLastBraceAfterStart);
+}
+
+void CKyUIBaseViewImpl::SetBackgroundColorImpl(int red, int green, int blue)
+{
+    static const QList<QRegExp> removals = StyleSheetRewriter::Patterns({kBackgroundColor});
+    const QString declaration = QStringLiteral("background-color: %1;").arg(ColorName(red, green, blue));
+    StyleSheetRewriter::Apply(GetWidget(), removals, declaration, Insertion::BeforeLastBrace);
+}
+
+void CKyUIBaseViewImpl::SetTextColorImpl(int red, int green, int blue)
+{
+    QWidget* widget = GetWidget();
+    if (!widget)
+        return;
+    QPalette palette = widget->palette();
+    palette.setBrush(QPalette::All, QPalette::Text, QBrush(QColor(red, green, blue, 255), Qt::SolidPattern));
+    widget->setPalette(palette);
+}
