@@ -7,4 +7,5 @@
 #include "UI/CKyUIEvent.h"
 #include "UI/CKyUIHorizontalLayout.h"
 #include "UI/CKyUIObject.h"
+#include "UI/CKyUISignal.h"
 #include "UI/CKyUIVerticalLayout.h"
