@@ -22,58 +22,70 @@ static_assert(int(CKyNANetworkRequest::User) == int(QNetworkRequest::User), "");
 static_assert(int(CKyNANetworkRequest::UserMax) == int(QNetworkRequest::UserMax), "");
 
 CKyNANetworkRequestImpl::CKyNANetworkRequestImpl(CKyNANetworkRequest* owner, const QUrl& url)
-    : m_owner(owner) {
+    : m_owner(owner)
+{
     // The URL field stays empty: only setUrl writes it.
     CreateNetworkRequestImpl(url);
 }
 
-CKyNANetworkRequestImpl::~CKyNANetworkRequestImpl() {
+CKyNANetworkRequestImpl::~CKyNANetworkRequestImpl()
+{
     DestroyNetworkRequestImpl();
 }
 
-QUrl CKyNANetworkRequestImpl::url() const {
+QUrl CKyNANetworkRequestImpl::url() const
+{
     return m_url;
 }
 
-void CKyNANetworkRequestImpl::setUrl(const QUrl& url) {
+void CKyNANetworkRequestImpl::setUrl(const QUrl& url)
+{
     m_url = url;
     SetUrlImpl(url);
 }
 
-void CKyNANetworkRequestImpl::setHeader(CKyNANetworkRequest::KnownHeaders header, const QVariant& value) {
+void CKyNANetworkRequestImpl::setHeader(CKyNANetworkRequest::KnownHeaders header, const QVariant& value)
+{
     m_knownHeaders[int(header)] = value;
     SetHeaderImpl(header, value);
 }
 
-QVariant CKyNANetworkRequestImpl::header(CKyNANetworkRequest::KnownHeaders header) const {
+QVariant CKyNANetworkRequestImpl::header(CKyNANetworkRequest::KnownHeaders header) const
+{
     return m_knownHeaders.value(int(header));
 }
 
-void CKyNANetworkRequestImpl::setRawHeader(const QByteArray& name, const QByteArray& value) {
+void CKyNANetworkRequestImpl::setRawHeader(const QByteArray& name, const QByteArray& value)
+{
     m_rawHeaders[name] = value;
     SetRawHeaderImpl(name, value);
 }
 
-QVariant CKyNANetworkRequestImpl::rawHeader(const QByteArray& name) const {
+QVariant CKyNANetworkRequestImpl::rawHeader(const QByteArray& name) const
+{
     const auto found = m_rawHeaders.constFind(name);
     if (found == m_rawHeaders.constEnd())
         return QVariant();
     return QVariant(found.value());
 }
 
-QList<QByteArray> CKyNANetworkRequestImpl::rawHeaderList() const {
+QList<QByteArray> CKyNANetworkRequestImpl::rawHeaderList() const
+{
     return m_rawHeaders.keys();
 }
 
-void CKyNANetworkRequestImpl::setRequestTimeout(int ms) {
+void CKyNANetworkRequestImpl::setRequestTimeout(int ms)
+{
     m_requestTimeout = ms;
 }
 
-int CKyNANetworkRequestImpl::requestTimeout() const {
+int CKyNANetworkRequestImpl::requestTimeout() const
+{
     return m_requestTimeout;
 }
 
-QByteArray CKyNANetworkRequestImpl::GetKnowHeaderName(CKyNANetworkRequest::KnownHeaders header) {
+QByteArray CKyNANetworkRequestImpl::GetKnowHeaderName(CKyNANetworkRequest::KnownHeaders header)
+{
     switch (int(header)) {
     case CKyNANetworkRequest::ContentTypeHeader:
         return QByteArrayLiteral("Content-Type");
@@ -97,11 +109,13 @@ QByteArray CKyNANetworkRequestImpl::GetKnowHeaderName(CKyNANetworkRequest::Known
     return QByteArray();
 }
 
-void CKyNANetworkRequestImpl::CreateNetworkRequestImpl(const QUrl& url) {
+void CKyNANetworkRequestImpl::CreateNetworkRequestImpl(const QUrl& url)
+{
     m_owner->setHandle(new QNetworkRequest(url));
 }
 
-void CKyNANetworkRequestImpl::DestroyNetworkRequestImpl() {
+void CKyNANetworkRequestImpl::DestroyNetworkRequestImpl()
+{
     QNetworkRequest* request = m_owner->getHandle();
     if (!request)
         return;
@@ -109,17 +123,20 @@ void CKyNANetworkRequestImpl::DestroyNetworkRequestImpl() {
     m_owner->setHandle(nullptr);
 }
 
-void CKyNANetworkRequestImpl::SetUrlImpl(const QUrl& url) {
+void CKyNANetworkRequestImpl::SetUrlImpl(const QUrl& url)
+{
     if (QNetworkRequest* request = m_owner->getHandle())
         request->setUrl(url);
 }
 
-void CKyNANetworkRequestImpl::SetHeaderImpl(CKyNANetworkRequest::KnownHeaders header, const QVariant& value) {
+void CKyNANetworkRequestImpl::SetHeaderImpl(CKyNANetworkRequest::KnownHeaders header, const QVariant& value)
+{
     if (QNetworkRequest* request = m_owner->getHandle())
         request->setHeader(QNetworkRequest::KnownHeaders(header), value);
 }
 
-void CKyNANetworkRequestImpl::SetRawHeaderImpl(const QByteArray& name, const QByteArray& value) {
+void CKyNANetworkRequestImpl::SetRawHeaderImpl(const QByteArray& name, const QByteArray& value)
+{
     if (QNetworkRequest* request = m_owner->getHandle())
         request->setRawHeader(name, value);
 }

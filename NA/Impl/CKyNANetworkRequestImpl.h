@@ -10,7 +10,8 @@
 
 // Bookkeeping of a request: the maps answer the getters, the toolkit request
 // carries the same values to the toolkit.
-class CKyNANetworkRequestImpl {
+class CKyNANetworkRequestImpl
+{
 public:
     CKyNANetworkRequestImpl(CKyNANetworkRequest* owner, const QUrl& url);
     ~CKyNANetworkRequestImpl();

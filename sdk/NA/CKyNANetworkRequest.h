@@ -14,7 +14,8 @@ class CKyNANetworkRequestImpl;
 // and raw headers and a time-out. A plain value, outside the object tree; every
 // setter also writes the toolkit request that the manager and the web socket
 // hand to the toolkit.
-class COMMONUI_EXPORT CKyNANetworkRequest {
+class COMMONUI_EXPORT CKyNANetworkRequest
+{
 public:
     // The toolkit's values, handed on unchanged.
     enum KnownHeaders : int {

@@ -5,13 +5,15 @@
 
 #include <gtest/gtest.h>
 
-namespace {
+namespace
+{
 
 const QUrl kUrl(QStringLiteral("http://127.0.0.1:1/path"));
 
 } // namespace
 
-TEST(CKyNANetworkRequest, ConstructorUrlReachesOnlyTheToolkitRequest) {
+TEST(CKyNANetworkRequest, ConstructorUrlReachesOnlyTheToolkitRequest)
+{
     CKyNANetworkRequest request(kUrl);
     EXPECT_TRUE(request.url().isEmpty());
     ASSERT_NE(request.getHandle(), nullptr);
@@ -24,7 +26,8 @@ TEST(CKyNANetworkRequest, ConstructorUrlReachesOnlyTheToolkitRequest) {
     EXPECT_EQ(request.getHandle()->url(), other);
 }
 
-TEST(CKyNANetworkRequest, KnownHeadersAreStoredAndWrittenThrough) {
+TEST(CKyNANetworkRequest, KnownHeadersAreStoredAndWrittenThrough)
+{
     CKyNANetworkRequest request(kUrl);
     EXPECT_FALSE(request.header(CKyNANetworkRequest::LocationHeader).isValid());
 
@@ -39,7 +42,8 @@ TEST(CKyNANetworkRequest, KnownHeadersAreStoredAndWrittenThrough) {
     EXPECT_EQ(request.header(CKyNANetworkRequest::LocationHeader).toUrl(), QUrl(QStringLiteral("http://b/")));
 }
 
-TEST(CKyNANetworkRequest, RawHeadersMatchCaseSensitivelyAndListInByteOrder) {
+TEST(CKyNANetworkRequest, RawHeadersMatchCaseSensitivelyAndListInByteOrder)
+{
     CKyNANetworkRequest request(kUrl);
     request.setRawHeader("x-a", "lower");
     EXPECT_FALSE(request.rawHeader("X-A").isValid());
@@ -59,7 +63,8 @@ TEST(CKyNANetworkRequest, RawHeadersMatchCaseSensitivelyAndListInByteOrder) {
     EXPECT_EQ(ordered.rawHeaderList(), (QList<QByteArray>{"Gamma", "alpha", "beta"}));
 }
 
-TEST(CKyNANetworkRequest, TimeoutIsStoredUncheckedAndNotHandedToTheToolkit) {
+TEST(CKyNANetworkRequest, TimeoutIsStoredUncheckedAndNotHandedToTheToolkit)
+{
     CKyNANetworkRequest request(kUrl);
     request.setRequestTimeout(-5);
     EXPECT_EQ(request.requestTimeout(), -5);
@@ -67,7 +72,8 @@ TEST(CKyNANetworkRequest, TimeoutIsStoredUncheckedAndNotHandedToTheToolkit) {
     EXPECT_EQ(request.requestTimeout(), 200);
 }
 
-TEST(CKyNANetworkRequest, CopyCarriesOnlyTheUrlField) {
+TEST(CKyNANetworkRequest, CopyCarriesOnlyTheUrlField)
+{
     CKyNANetworkRequest original(kUrl);
     original.setRawHeader("X-A", "1");
     original.setHeader(CKyNANetworkRequest::ContentTypeHeader, QByteArray("text/plain"));
@@ -91,7 +97,8 @@ TEST(CKyNANetworkRequest, CopyCarriesOnlyTheUrlField) {
     EXPECT_TRUE(copy.getHandle()->rawHeaderList().isEmpty());
 }
 
-TEST(CKyNANetworkRequest, AssignmentInstallsAFreshRequestFromTheUrlField) {
+TEST(CKyNANetworkRequest, AssignmentInstallsAFreshRequestFromTheUrlField)
+{
     CKyNANetworkRequest target(QUrl(QStringLiteral("http://127.0.0.1:3/old")));
     target.setRawHeader("X-Old", "1");
     QNetworkRequest* previous = target.getHandle();
@@ -110,7 +117,8 @@ TEST(CKyNANetworkRequest, AssignmentInstallsAFreshRequestFromTheUrlField) {
     EXPECT_EQ(previous->rawHeader("X-Old"), QByteArray("1"));
 }
 
-TEST(CKyNANetworkRequest, KnownHeaderNames) {
+TEST(CKyNANetworkRequest, KnownHeaderNames)
+{
     using R = CKyNANetworkRequest;
     EXPECT_EQ(CKyNANetworkRequestImpl::GetKnowHeaderName(R::ContentTypeHeader), QByteArray("Content-Type"));
     EXPECT_EQ(CKyNANetworkRequestImpl::GetKnowHeaderName(R::ContentLengthHeader),
