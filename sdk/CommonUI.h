@@ -2,7 +2,11 @@
 
 // Every public header of the library.
 
+#include "NA/CKyNANetworkAccessManager.h"
+#include "NA/CKyNANetworkReply.h"
 #include "NA/CKyNANetworkRequest.h"
+#include "NA/CKyNAWebSocket.h"
+#include "NA/CKyNAWebSocketProtocol.h"
 #include "UI/CKyUIBaseView.h"
 #include "UI/CKyUIEvent.h"
 #include "UI/CKyUIHorizontalLayout.h"
