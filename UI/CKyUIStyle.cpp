@@ -8,18 +8,21 @@
 
 std::shared_ptr<CKyUIStyle> g_pStyle;
 
-std::shared_ptr<CKyUIStyle> GetStyle() {
+std::shared_ptr<CKyUIStyle> GetStyle()
+{
     if (!g_pStyle)
         g_pStyle = std::make_shared<CKyUIStyle>();
     return g_pStyle;
 }
 
 CKyUIStyle::CKyUIStyle()
-    : styleSheet() {
+    : styleSheet()
+{
     Load();
 }
 
-void CKyUIStyle::Load() {
+void CKyUIStyle::Load()
+{
     // Both files are opened without QIODevice::Text: CR LF stays as it is.
     QFile colorsFile(QStringLiteral(":/commonui/resources/qss/style.colors"));
     if (!colorsFile.open(QIODevice::ReadOnly))

@@ -9,7 +9,8 @@
 // The library's one look: the compiled-in style sheet with the compiled-in
 // palette's colours substituted into it. Dialogs set it on their top-level
 // widget; controls never set it themselves.
-class COMMONUI_EXPORT CKyUIStyle {
+class COMMONUI_EXPORT CKyUIStyle
+{
 public:
     CKyUIStyle();
 

@@ -21,14 +21,16 @@ namespace {
 const char kSheetPath[] = ":/commonui/resources/qss/style.qss";
 const char kPalettePath[] = ":/commonui/resources/qss/style.colors";
 
-QByteArray ReadResource(const char* path) {
+QByteArray ReadResource(const char* path)
+{
     QFile file(QString::fromLatin1(path));
     if (!file.open(QIODevice::ReadOnly))
         return QByteArray();
     return file.readAll();
 }
 
-QString IconPath(const char* name) {
+QString IconPath(const char* name)
+{
     return QStringLiteral(":/commonui/resources/icons/") + QString::fromLatin1(name);
 }
 
@@ -38,7 +40,8 @@ const char* const kIcons[] = {
     "radiobutton_disabled.png",     "chevron_down.png",         "chevron_up.png",
 };
 
-bool IsCompressed(const QResource& resource) {
+bool IsCompressed(const QResource& resource)
+{
 #if QT_VERSION >= QT_VERSION_CHECK(5, 13, 0)
     return resource.compressionAlgorithm() != QResource::NoCompression;
 #else
@@ -46,20 +49,23 @@ bool IsCompressed(const QResource& resource) {
 #endif
 }
 
-QString Argb(const QImage& image, int x, int y) {
+QString Argb(const QImage& image, int x, int y)
+{
     return image.pixelColor(x, y).name(QColor::HexArgb);
 }
 
 } // namespace
 
-TEST(ThemeResourcesTest, AllRegisteredWithoutAnyCall) {
+TEST(ThemeResourcesTest, AllRegisteredWithoutAnyCall)
+{
     EXPECT_TRUE(QFile::exists(QString::fromLatin1(kSheetPath)));
     EXPECT_TRUE(QFile::exists(QString::fromLatin1(kPalettePath)));
     for (const char* icon : kIcons)
         EXPECT_TRUE(QFile::exists(IconPath(icon))) << icon;
 }
 
-TEST(ThemeResourcesTest, PaletteIsNineCrLfLinesOf129Bytes) {
+TEST(ThemeResourcesTest, PaletteIsNineCrLfLinesOf129Bytes)
+{
     const QByteArray palette = ReadResource(kPalettePath);
     EXPECT_EQ(palette.size(), 129);
     EXPECT_EQ(palette, QByteArray("clone=#646464\r\n"
@@ -73,7 +79,8 @@ TEST(ThemeResourcesTest, PaletteIsNineCrLfLinesOf129Bytes) {
                                   "dark=#000000\r\n"));
 }
 
-TEST(ThemeResourcesTest, SheetTemplateKeepsCrLfAndMixedIndentation) {
+TEST(ThemeResourcesTest, SheetTemplateKeepsCrLfAndMixedIndentation)
+{
     const QByteArray sheet = ReadResource(kSheetPath);
     EXPECT_EQ(sheet.size(), 3072);
     EXPECT_TRUE(sheet.endsWith("\r\n"));
@@ -84,7 +91,8 @@ TEST(ThemeResourcesTest, SheetTemplateKeepsCrLfAndMixedIndentation) {
 }
 
 // Selectors and declarations in their order, white space folded.
-TEST(ThemeResourcesTest, SheetTemplateHasTheRulesInOrder) {
+TEST(ThemeResourcesTest, SheetTemplateHasTheRulesInOrder)
+{
     const std::vector<std::pair<const char*, const char*>> expected = {
         {"QDialog", "background-color: jango"},
         {"QTabWidget", "background-color: jango"},
@@ -154,7 +162,8 @@ TEST(ThemeResourcesTest, SheetTemplateHasTheRulesInOrder) {
     }
 }
 
-TEST(ThemeResourcesTest, OnlyTheSheetIsCompressed) {
+TEST(ThemeResourcesTest, OnlyTheSheetIsCompressed)
+{
     const QResource sheet(QString::fromLatin1(kSheetPath));
     ASSERT_TRUE(sheet.isValid());
     EXPECT_TRUE(IsCompressed(sheet));
@@ -172,7 +181,8 @@ TEST(ThemeResourcesTest, OnlyTheSheetIsCompressed) {
         EXPECT_FALSE(IsCompressed(QResource(IconPath(icon)))) << icon;
 }
 
-TEST(ThemeResourcesTest, IconsHaveTheirSizesAndTransparentMargins) {
+TEST(ThemeResourcesTest, IconsHaveTheirSizesAndTransparentMargins)
+{
     for (const char* icon : kIcons) {
         const QImage image(IconPath(icon));
         ASSERT_FALSE(image.isNull()) << icon;
@@ -190,8 +200,10 @@ TEST(ThemeResourcesTest, IconsHaveTheirSizesAndTransparentMargins) {
     }
 }
 
-TEST(ThemeResourcesTest, IndicatorIconsUseThePaletteColours) {
-    struct Sample {
+TEST(ThemeResourcesTest, IndicatorIconsUseThePaletteColours)
+{
+    struct Sample
+    {
         const char* icon;
         QPoint point;
         const char* argb;
@@ -222,7 +234,8 @@ TEST(ThemeResourcesTest, IndicatorIconsUseThePaletteColours) {
     }
 }
 
-TEST(ThemeResourcesTest, ChevronsPointDownAndUp) {
+TEST(ThemeResourcesTest, ChevronsPointDownAndUp)
+{
     const QImage down(IconPath("chevron_down.png"));
     const QImage up(IconPath("chevron_up.png"));
     // The arms start at the top corners of the down chevron and at the bottom

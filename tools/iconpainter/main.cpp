@@ -36,12 +36,14 @@ const qreal kMarkWidth = 5.0;
 
 // The stroke is centred on the path, so inset the shape by half of it to keep
 // the whole figure inside the 40 px square.
-QRectF FigureRect() {
+QRectF FigureRect()
+{
     const qreal inset = kOutline / 2.0;
     return QRectF(kMargin + inset, kMargin + inset, kFigure - kOutline, kFigure - kOutline);
 }
 
-QImage Paint(int width, int height, const std::function<void(QPainter&)>& draw) {
+QImage Paint(int width, int height, const std::function<void(QPainter&)>& draw)
+{
     QImage image(width, height, QImage::Format_ARGB32);
     image.fill(Qt::transparent);
     QPainter painter(&image);
@@ -51,19 +53,22 @@ QImage Paint(int width, int height, const std::function<void(QPainter&)>& draw) 
     return image;
 }
 
-void DrawSquare(QPainter& painter, const QColor& fill, const QColor& outline) {
+void DrawSquare(QPainter& painter, const QColor& fill, const QColor& outline)
+{
     painter.setPen(QPen(outline, kOutline, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     painter.setBrush(fill);
     painter.drawRoundedRect(FigureRect(), 3.0, 3.0);
 }
 
-void DrawCircle(QPainter& painter, const QColor& fill, const QColor& ring) {
+void DrawCircle(QPainter& painter, const QColor& fill, const QColor& ring)
+{
     painter.setPen(QPen(ring, kOutline));
     painter.setBrush(fill);
     painter.drawEllipse(FigureRect());
 }
 
-void DrawCheckMark(QPainter& painter, const QColor& colour) {
+void DrawCheckMark(QPainter& painter, const QColor& colour)
+{
     QPainterPath mark;
     mark.moveTo(25.0, 36.5);
     mark.lineTo(32.5, 44.0);
@@ -73,14 +78,16 @@ void DrawCheckMark(QPainter& painter, const QColor& colour) {
     painter.drawPath(mark);
 }
 
-void DrawCentreDot(QPainter& painter, const QColor& colour) {
+void DrawCentreDot(QPainter& painter, const QColor& colour)
+{
     painter.setPen(Qt::NoPen);
     painter.setBrush(colour);
     painter.drawEllipse(QPointF(kIndicatorSize / 2.0, kIndicatorSize / 2.0), 8.0, 8.0);
 }
 
 // A chevron in a 16x10 box; the tip points down unless pointUp is set.
-void DrawChevron(QPainter& painter, bool pointUp) {
+void DrawChevron(QPainter& painter, bool pointUp)
+{
     const qreal top = 2.5;
     const qreal bottom = 7.5;
     QPainterPath chevron;
@@ -92,7 +99,8 @@ void DrawChevron(QPainter& painter, bool pointUp) {
     painter.drawPath(chevron);
 }
 
-struct Icon {
+struct Icon
+{
     const char* name;
     int width;
     int height;
@@ -101,7 +109,8 @@ struct Icon {
 
 } // namespace
 
-int main(int argc, char** argv) {
+int main(int argc, char** argv)
+{
     if (argc != 2) {
         std::fprintf(stderr, "usage: %s <output directory>\n", argv[0]);
         return 2;
