@@ -3,14 +3,9 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QDateTime>
 #include <QtCore/QFile>
-#include <QtCore/QRegularExpression>
 #include <QtCore/QResource>
-#include <QtCore/QStringList>
 #include <QtGui/QColor>
 #include <QtGui/QImage>
-
-#include <utility>
-#include <vector>
 
 // The theme resources as the library carries them. main() registers nothing:
 // whatever is found here was registered by the library's own static
@@ -88,78 +83,6 @@ TEST(ThemeResourcesTest, SheetTemplateKeepsCrLfAndMixedIndentation)
     EXPECT_EQ(sheet.count('\r'), sheet.count("\r\n")) << "a bare CR";
     EXPECT_TRUE(sheet.contains("\r\n\t")) << "no tab-indented line";
     EXPECT_TRUE(sheet.contains("\r\n    ")) << "no line indented with four spaces";
-}
-
-// Selectors and declarations in their order, white space folded.
-TEST(ThemeResourcesTest, SheetTemplateHasTheRulesInOrder)
-{
-    const std::vector<std::pair<const char*, const char*>> expected = {
-        {"QDialog", "background-color: jango"},
-        {"QTabWidget", "background-color: jango"},
-        {"QTabWidget::pane", "border: none"},
-        {"QTabWidget::tab-bar", "background-color: snoke; border: 1px solid dark; min-height: 36px"},
-        {"QTabBar::tab", "background-color: snoke; border: 1px solid dark; margin: 0; color: light; font: "
-                         "12px; padding: 10px; min-width: 70px"},
-        {"QTabBar::tab:selected, QTabBar::tab:hover", "border-bottom: 3px solid obi"},
-        {"QPushButton", "background-color: vader; color: light; border: 1px solid dark; padding-left: 5px; "
-                        "padding-right: 5px"},
-        {"QGroupBox", "background-color: jango; border: none"},
-        {"QLabel",
-         "background-color: jango; color: light; font: 12px; border: none; padding: 0; padding: 5px"},
-        {"QComboBox", "background-color: vader; color: light; border: 1px solid dark; padding-left: 5px; "
-                      "padding-right: 5px"},
-        {"QComboBox::drop-down", "border: 0px"},
-        {"QComboBox::down-arrow",
-         "border-style: none; image: url(:/commonui/resources/icons/chevron_down.png)"},
-        {"QComboBox::down-arrow:pressed",
-         "border-style: none; image: url(:/commonui/resources/icons/chevron_up.png)"},
-        {"QComboBox::down-arrow:on",
-         "border-style: none; image: url(:/commonui/resources/icons/chevron_up.png)"},
-        {"QSlider",
-         "border-style: none; height: 16px; margin-left: 5px; margin-right: 5px; background-color: jango"},
-        {"QSlider::groove:horizontal", "height: 2px; background-color: clone"},
-        {"QSlider::handle:horizontal", "background: rey; width: 14px; border-radius: 7px; margin: -7px 0"},
-        {"QLineEdit", "background-color: vader; color:light; border: 1px solid dark"},
-        {"QCheckBox",
-         "background-color: jango; color: light; font: 12px; border: none; spacing: 5px; min-height: 25px"},
-        {"QCheckBox::indicator", "width: 30px; height: 30px"},
-        {"QCheckBox::indicator:unchecked", "image: url(:/commonui/resources/icons/checkbox_inactive.png)"},
-        {"QCheckBox::indicator:checked", "image: url(:/commonui/resources/icons/checkbox_active.png)"},
-        {"QCheckBox::indicator:unchecked:disabled",
-         "image: url(:/commonui/resources/icons/checkbox_disabled_inactive.png)"},
-        {"QCheckBox::indicator:checked:disabled",
-         "image: url(:/commonui/resources/icons/checkbox_disabled_active.png)"},
-        {"QRadioButton", "background-color: jango; color: light; font: 12px; border: none; spacing: 5px"},
-        {"QRadioButton::indicator", "width: 30px; height: 30px"},
-        {"QRadioButton::indicator:unchecked",
-         "image: url(:/commonui/resources/icons/radiobutton_inactive.png)"},
-        {"QRadioButton::indicator:checked", "image: url(:/commonui/resources/icons/radiobutton_active.png)"},
-        {"QRadioButton::indicator:unchecked:disabled",
-         "image: url(:/commonui/resources/icons/radiobutton_disabled.png)"},
-        {"QRadioButton::indicator:checked:disabled",
-         "image: url(:/commonui/resources/icons/radiobutton_disabled.png)"},
-    };
-
-    const QString sheet = QString::fromLatin1(ReadResource(kSheetPath));
-    const QRegularExpression rule(QStringLiteral("([^{}]*)\\{([^{}]*)\\}"));
-    std::vector<std::pair<QString, QString>> found;
-    auto matches = rule.globalMatch(sheet);
-    while (matches.hasNext()) {
-        const QRegularExpressionMatch match = matches.next();
-        QStringList declarations;
-        for (const QString& declaration : match.captured(2).split(QLatin1Char(';'))) {
-            if (!declaration.trimmed().isEmpty())
-                declarations << declaration.simplified();
-        }
-        found.emplace_back(match.captured(1).simplified(), declarations.join(QStringLiteral("; ")));
-    }
-    EXPECT_TRUE(sheet.mid(sheet.lastIndexOf(QLatin1Char('}')) + 1).trimmed().isEmpty());
-
-    ASSERT_EQ(found.size(), expected.size());
-    for (std::size_t i = 0; i < expected.size(); ++i) {
-        EXPECT_EQ(found[i].first, QString::fromLatin1(expected[i].first)) << "rule " << i;
-        EXPECT_EQ(found[i].second, QString::fromLatin1(expected[i].second)) << "rule " << i;
-    }
 }
 
 TEST(ThemeResourcesTest, OnlyTheSheetIsCompressed)
