@@ -12,4 +12,5 @@
 #include "UI/CKyUIHorizontalLayout.h"
 #include "UI/CKyUIObject.h"
 #include "UI/CKyUISignal.h"
+#include "UI/CKyUIStyle.h"
 #include "UI/CKyUIVerticalLayout.h"
