@@ -113,6 +113,10 @@ TEST_F(NetworkAccessManager, PostPutAndDeleteReachTheServerAsSent)
         EXPECT_EQ(recorder.log, QStringList{QStringLiteral("finished")});
         EXPECT_EQ(reply->rawHeader("X-Echo-Method"), c.method);
         EXPECT_EQ(reply->readAll(), c.body);
+        EXPECT_GT(recorder.downloads, 0);
+        if (!c.body.isEmpty()) {
+            EXPECT_GT(recorder.uploads, 0);
+        }
 
         const HttpTestRequest& received = server.requests().last();
         EXPECT_EQ(received.method, c.method);
@@ -151,6 +155,23 @@ TEST_F(NetworkAccessManager, RefusedConnectionReportsErrorThenFinished)
     EXPECT_EQ(recorder.log, (QStringList{QStringLiteral("error:1"), QStringLiteral("finished")}));
     EXPECT_EQ(errorCode(*reply), CKyNANetworkReply::ConnectionRefusedError);
     EXPECT_FALSE(reply->errorString().isEmpty());
+}
+
+TEST_F(NetworkAccessManager, ServerClosingWithoutAnswerReportsRemoteHostClosed)
+{
+    Route hangUp;
+    hangUp.mode = Mode::CloseEarly;
+    server.setRoute("/hang-up", hangUp);
+
+    CKyNANetworkRequest request(server.url(QStringLiteral("/hang-up")));
+    std::unique_ptr<CKyNANetworkReply> reply(manager.get(request));
+    ReplyRecorder recorder(reply.get());
+    ASSERT_TRUE(waitFinished(recorder));
+    EXPECT_EQ(recorder.log, (QStringList{QStringLiteral("error:2"), QStringLiteral("finished")}));
+    EXPECT_EQ(errorCode(*reply), CKyNANetworkReply::RemoteHostClosedError);
+    EXPECT_FALSE(reply->attribute(CKyNANetworkRequest::HttpStatusCodeAttribute).isValid());
+    EXPECT_TRUE(reply->rawHeaderList().isEmpty());
+    EXPECT_FALSE(server.requests().isEmpty());
 }
 
 TEST_F(NetworkAccessManager, HttpErrorStatusStillDeliversStatusAndBody)
