@@ -20,12 +20,3 @@ template <class Condition> bool waitUntil(Condition condition, int timeoutMs = 5
     }
     return true;
 }
-
-// Runs the event loop for a fixed span: only for showing that nothing happens.
-inline void runEventsFor(int ms)
-{
-    QTimer span;
-    span.setSingleShot(true);
-    span.start(ms);
-    waitUntil([&span] { return !span.isActive(); }, ms + 1000);
-}
