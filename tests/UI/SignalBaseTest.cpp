@@ -124,6 +124,26 @@ TEST(SignalBase, SlotConnectedDuringEmissionWaitsForTheNext)
     expectSettled(signal);
 }
 
+TEST(SignalBase, SlotKeepsItsCapturesWhileItsConnectsMoveTheArray)
+{
+    // The callable is small enough to live inside its std::function, which
+    // sits in the array that the connects below move and free.
+    static Signal<void()>* current = nullptr;
+    Signal<void()> signal;
+    current = &signal;
+    std::vector<long> seen;
+    const long tag = 4242;
+    signal.connect([&seen, tag] {
+        for (int i = 0; i < 64; ++i)
+            current->connect([] {});
+        seen.push_back(tag);
+    });
+    signal.emit();
+    EXPECT_EQ(seen, (std::vector<long>{4242}));
+    EXPECT_EQ(signal.slot_count(), 65u);
+    current = nullptr;
+}
+
 TEST(SignalBase, SlotDisconnectingALaterSlotSkipsItAndCompactsAfterwards)
 {
     Signal<void()> signal;
