@@ -3,7 +3,11 @@
 // Every public header of the library.
 
 #include "UI/CKyUIBaseView.h"
+#include "UI/CKyUIDockWidget.h"
 #include "UI/CKyUIEvent.h"
 #include "UI/CKyUIHorizontalLayout.h"
+#include "UI/CKyUIImageView.h"
 #include "UI/CKyUIObject.h"
+#include "UI/CKyUIPreviewView.h"
+#include "UI/CKyUIScrollableArea.h"
 #include "UI/CKyUIVerticalLayout.h"
