@@ -10,4 +10,5 @@
 #include "UI/CKyUIObject.h"
 #include "UI/CKyUIPreviewView.h"
 #include "UI/CKyUIScrollableArea.h"
+#include "UI/CKyUIStyle.h"
 #include "UI/CKyUIVerticalLayout.h"
