@@ -10,5 +10,6 @@
 #include "UI/CKyUIObject.h"
 #include "UI/CKyUIPreviewView.h"
 #include "UI/CKyUIScrollableArea.h"
+#include "UI/CKyUISignal.h"
 #include "UI/CKyUIStyle.h"
 #include "UI/CKyUIVerticalLayout.h"
