@@ -45,19 +45,6 @@ TEST(CKyUISignal, BlockingInsideASlotStopsTheNextEmitNotTheRunningOne)
     EXPECT_EQ(signal.emission_depth(), 0u);
 }
 
-TEST(CKyUISignal, ByValueStringReachesEverySlot)
-{
-    CKyUIObject owner;
-    CKyUISignal<void(QString)> signal(&owner);
-    QStringList log;
-    for (int i = 0; i < 3; ++i)
-        signal.connect([&](QString text) { log << text; });
-    QString text("changed");
-    signal.Emit(text);
-    EXPECT_EQ(log, (QStringList{"changed", "changed", "changed"}));
-    EXPECT_EQ(text, "changed");
-}
-
 TEST(CKyUISignal, EmitLeavesTheSenderAlone)
 {
     CKyUIObject owner;
