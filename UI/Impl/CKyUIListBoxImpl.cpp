@@ -97,3 +97,12 @@ void CKyUIListBoxImpl::OnItemSelected(int row, bool selected)
     }
     valueChanged.Emit(0);
 }
+
+QString& CKyUIListBoxImpl::Item(int row)
+{
+    if (!IsRow(row)) {
+        m_outOfRangeItem.clear();
+        return m_outOfRangeItem;
+    }
+    return m_items[row];
+}

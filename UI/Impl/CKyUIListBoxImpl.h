@@ -29,7 +29,7 @@ public:
     void Clear();
     int Count() const { return m_items.size(); }
     int Row(const QString& text) const { return m_items.indexOf(text); }
-    QString& Item(int row) { return m_items[row]; }
+    QString& Item(int row);
     void SetItemData(int row, const QVariant& value);
     QVariant ItemData(int row) const;
     void SetItemSelected(int row, bool selected);
@@ -56,4 +56,6 @@ private:
 
     QList<QString> m_items;
     QVector<ItemDef> m_itemDefs;
+    // Answers a row outside the list instead of undefined behaviour.
+    QString m_outOfRangeItem;
 };
