@@ -6,4 +6,5 @@
 #include "UI/CKyUIEvent.h"
 #include "UI/CKyUIHorizontalLayout.h"
 #include "UI/CKyUIObject.h"
+#include "UI/CKyUIStyle.h"
 #include "UI/CKyUIVerticalLayout.h"

@@ -1,0 +1,57 @@
+#include "UI/CKyUIStyle.h"
+
+#include <QtCore/QFile>
+#include <QtCore/QIODevice>
+#include <QtCore/QMap>
+#include <QtCore/QStringList>
+#include <QtCore/QTextStream>
+
+std::shared_ptr<CKyUIStyle> g_pStyle;
+
+std::shared_ptr<CKyUIStyle> GetStyle()
+{
+    if (!g_pStyle)
+        g_pStyle = std::make_shared<CKyUIStyle>();
+    return g_pStyle;
+}
+
+CKyUIStyle::CKyUIStyle()
+    : styleSheet()
+{
+    Load();
+}
+
+void CKyUIStyle::Load()
+{
+    // Both files are opened without QIODevice::Text: CR LF stays as it is.
+    QFile colorsFile(QStringLiteral(":/commonui/resources/qss/style.colors"));
+    if (!colorsFile.open(QIODevice::ReadOnly))
+        return;
+    QTextStream colorsStream(&colorsFile);
+    const QString colorsText = colorsStream.readAll();
+    colorsFile.close();
+
+    // Lines are cut at LF only, so every value keeps the CR in front of it;
+    // the sheet's parser takes that CR for white space. The defaults of
+    // split() keep empty parts and compare case-sensitively.
+    QMap<QString, QString> colors;
+    const QStringList lines = colorsText.split(QLatin1Char('\n'));
+    for (const QString& line : lines) {
+        const QStringList parts = line.split(QLatin1Char('='));
+        if (parts.size() != 2)
+            continue;
+        colors.insert(parts.at(0), parts.at(1));
+    }
+
+    QFile sheetFile(QStringLiteral(":/commonui/resources/qss/style.qss"));
+    if (!sheetFile.open(QIODevice::ReadOnly))
+        return;
+    QTextStream sheetStream(&sheetFile);
+    styleSheet = sheetStream.readAll();
+    sheetFile.close();
+
+    // Plain substring replacement in the map's key order; the shipped names
+    // occur nowhere else in the sheet, and the values are hex colours.
+    for (auto it = colors.constBegin(); it != colors.constEnd(); ++it)
+        styleSheet.replace(it.key(), it.value());
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "commonui_export.h"
+
+#include <QtCore/QString>
+
+#include <memory>
+
+// The library's one look: the compiled-in style sheet with the compiled-in
+// palette's colours substituted into it. Dialogs set it on their top-level
+// widget; controls never set it themselves.
+class COMMONUI_EXPORT CKyUIStyle
+{
+public:
+    CKyUIStyle();
+
+    // Reads the palette and the sheet from the resources and fills styleSheet.
+    // A resource that cannot be opened leaves styleSheet empty.
+    void Load();
+
+    // The finished sheet; empty until Load succeeds.
+    QString styleSheet;
+};
+
+// The shared theme, created on the first call of GetStyle() and kept until
+// the library is unloaded.
+extern COMMONUI_EXPORT std::shared_ptr<CKyUIStyle> g_pStyle;
+
+// Returns the shared theme, reading the resources on the first call only.
+COMMONUI_EXPORT std::shared_ptr<CKyUIStyle> GetStyle();
