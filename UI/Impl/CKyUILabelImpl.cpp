@@ -2,8 +2,7 @@
 
 CKyUILabelImpl::CKyUILabelImpl(CKyUIObject* owner)
     : CKyUIBaseViewImpl(owner)
-{
-}
+{}
 
 CKyUILabelImpl::~CKyUILabelImpl() = default;
 

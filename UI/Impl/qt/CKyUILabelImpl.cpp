@@ -44,7 +44,8 @@ void CKyUILabelImpl::SetIconImpl(const QIcon& icon)
 void CKyUILabelImpl::SetBoldTextImpl(bool bold)
 {
     static const QList<QRegExp> removals = StyleSheetRewriter::Patterns({kFontWeight});
-    const QString declaration = bold ? QStringLiteral("font-weight: bold;") : QStringLiteral("font-weight: normal;");
+    const QString declaration =
+        bold ? QStringLiteral("font-weight: bold;") : QStringLiteral("font-weight: normal;");
     StyleSheetRewriter::Apply(GetLabel(), removals, declaration, Insertion::BeforeLastBrace);
 }
 
