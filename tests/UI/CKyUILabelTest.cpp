@@ -1,0 +1,136 @@
+#include "UI/CKyUILabel.h"
+#include "UI/Impl/CKyUILabelImpl.h"
+
+#include <gtest/gtest.h>
+
+#include <QtCore/QObject>
+#include <QtGui/QPixmap>
+#include <QtWidgets/QLabel>
+
+namespace
+{
+QLabel* LabelOf(const CKyUILabel& label)
+{
+    return qobject_cast<QLabel*>(label.getHandle());
+}
+
+QIcon SquareIcon(int side)
+{
+    QPixmap pixmap(side, side);
+    pixmap.fill(Qt::red);
+    return QIcon(pixmap);
+}
+} // namespace
+
+TEST(CKyUILabelTest, CreatesAPlainLabelWithAnEmptyRuleOfItsClass)
+{
+    CKyUILabel label;
+    QLabel* widget = LabelOf(label);
+    ASSERT_NE(widget, nullptr);
+    EXPECT_STREQ(widget->metaObject()->className(), "QLabel");
+    EXPECT_EQ(widget->parentWidget(), nullptr);
+    EXPECT_EQ(widget->styleSheet(), "QLabel { }");
+    EXPECT_FALSE(label.wordWrap());
+    label.setWordWrap(true);
+    EXPECT_TRUE(label.wordWrap());
+    EXPECT_TRUE(widget->wordWrap());
+}
+
+TEST(CKyUILabelTest, FontSizeIsReplacedUnlessItsValueHoldsAZero)
+{
+    CKyUILabel label;
+    label.setFontSize(14);
+    label.setBoldText(true);
+    EXPECT_EQ(LabelOf(label)->styleSheet(), "QLabel { font-size:14px;font-weight: bold;}");
+
+    CKyUILabel same;
+    same.setFontSize(12);
+    same.setFontSize(12);
+    EXPECT_EQ(LabelOf(same)->styleSheet(), "QLabel { font-size:12px;}");
+
+    // 10 is never matched again, so the sheet grows by one declaration per call.
+    CKyUILabel ten;
+    ten.setFontSize(10);
+    ten.setFontSize(12);
+    ten.setFontSize(13);
+    EXPECT_EQ(LabelOf(ten)->styleSheet(), "QLabel { font-size:10px;font-size:13px;}");
+
+    // Nor is a minus sign.
+    CKyUILabel negative;
+    negative.setFontSize(-3);
+    negative.setFontSize(9);
+    EXPECT_EQ(LabelOf(negative)->styleSheet(), "QLabel { font-size:-3px;font-size:9px;}");
+}
+
+TEST(CKyUILabelTest, BoldIsReplacedAndAdmitsDigitsOneToNine)
+{
+    CKyUILabel fresh;
+    fresh.setBoldText(false);
+    EXPECT_EQ(LabelOf(fresh)->styleSheet(), "QLabel { font-weight: normal;}");
+
+    CKyUILabel toggled;
+    toggled.setBoldText(true);
+    toggled.setBoldText(false);
+    EXPECT_EQ(LabelOf(toggled)->styleSheet(), "QLabel { font-weight: normal;}");
+
+    // Unlike the push button's pattern: 9 matches, 600 (zeros) does not.
+    CKyUILabel numeric;
+    LabelOf(numeric)->setStyleSheet("QLabel { font-weight: 600; } QLabel:hover { font-weight: 9; }");
+    numeric.setBoldText(true);
+    EXPECT_EQ(LabelOf(numeric)->styleSheet(),
+              "QLabel { font-weight: 600; } QLabel:hover {  font-weight: bold;}");
+
+    CKyUILabel braceless;
+    LabelOf(braceless)->setStyleSheet("color: red;");
+    braceless.setFontSize(11);
+    EXPECT_EQ(LabelOf(braceless)->styleSheet(), "color: red;font-size:11px;");
+}
+
+TEST(CKyUILabelTest, ClearEmptiesTheTextAndKeepsTheStoredIcon)
+{
+    CKyUILabel label;
+    label.setText("Name");
+    const QIcon icon = SquareIcon(16);
+    label.setIcon(icon);
+
+    label.clear();
+    EXPECT_TRUE(label.text().isEmpty());
+    EXPECT_TRUE(LabelOf(label)->text().isEmpty());
+    auto* impl = static_cast<CKyUILabelImpl*>(label.impl());
+    EXPECT_EQ(impl->Icon().cacheKey(), icon.cacheKey());
+
+    // The implementation's own clear() drops both.
+    label.setIcon(icon);
+    label.setText("Name");
+    impl->clear();
+    EXPECT_TRUE(impl->Icon().isNull());
+    EXPECT_TRUE(label.text().isEmpty());
+    EXPECT_TRUE(LabelOf(label)->pixmap() == nullptr || LabelOf(label)->pixmap()->isNull());
+}
+
+TEST(CKyUILabelTest, IconsAreShownAtMostTwentyFivePixelsSquare)
+{
+    CKyUILabel large;
+    large.setIcon(SquareIcon(64));
+    ASSERT_NE(LabelOf(large)->pixmap(), nullptr);
+    EXPECT_EQ(LabelOf(large)->pixmap()->size(), QSize(25, 25));
+
+    CKyUILabel small;
+    small.setIcon(SquareIcon(16));
+    ASSERT_NE(LabelOf(small)->pixmap(), nullptr);
+    EXPECT_EQ(LabelOf(small)->pixmap()->size(), QSize(16, 16));
+}
+
+TEST(CKyUILabelTest, WithoutALabelHandleValuesAreStillRecorded)
+{
+    CKyUILabel label;
+    QLabel* widget = LabelOf(label);
+    QObject stranger;
+    label.setHandle(&stranger);
+    label.setText("kept");
+    label.setFontSize(14);
+    EXPECT_EQ(label.text(), "kept");
+    EXPECT_TRUE(widget->text().isEmpty());
+    EXPECT_EQ(widget->styleSheet(), "QLabel { }");
+    label.setHandle(widget);
+}
