@@ -72,8 +72,8 @@ int main(int argc, char** argv)
 
     const bool themed = !GetStyle()->styleSheet.isEmpty();
     const bool told = host.calls == std::vector<bool>{true, false};
-    std::printf("consumer: result %d, theme %s, host told %s\n", result,
-                themed ? "loaded" : "missing", told ? "start and end" : "something else");
+    std::printf("consumer: result %d, theme %s, host told %s\n", result, themed ? "loaded" : "missing",
+                told ? "start and end" : "something else");
     if (!headless)
         return 0;
     return result == 1 && themed && told ? 0 : 1;
