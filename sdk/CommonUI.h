@@ -6,5 +6,6 @@
 #include "UI/CKyUIEvent.h"
 #include "UI/CKyUIHorizontalLayout.h"
 #include "UI/CKyUIObject.h"
+#include "UI/CKyUISignal.h"
 #include "UI/CKyUIStyle.h"
 #include "UI/CKyUIVerticalLayout.h"
