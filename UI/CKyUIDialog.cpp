@@ -1,0 +1,84 @@
+#include "UI/CKyUIDialog.h"
+
+#include "UI/Impl/CKyUIDialogImpl.h"
+
+CKyUIDialog::CKyUIDialog()
+{
+    setImpl(new CKyUIDialogImpl(this));
+}
+
+CKyUIDialog::~CKyUIDialog() = default;
+
+int CKyUIDialog::exec(bool modal)
+{
+    return implAs<CKyUIDialogImpl>()->Exec(modal);
+}
+
+void CKyUIDialog::showEvent(CKyUIShowEvent*) {}
+
+void CKyUIDialog::hideEvent(CKyUIHideEvent*) {}
+
+void CKyUIDialog::accept()
+{
+    implAs<CKyUIDialogImpl>()->Accept();
+}
+
+void CKyUIDialog::reject()
+{
+    implAs<CKyUIDialogImpl>()->Reject();
+}
+
+void CKyUIDialog::done(int result)
+{
+    implAs<CKyUIDialogImpl>()->Done(result);
+}
+
+CKyUIVerticalLayout* CKyUIDialog::GetLayout()
+{
+    return implAs<CKyUIDialogImpl>()->GetLayout();
+}
+
+void CKyUIDialog::hide()
+{
+    implAs<CKyUIDialogImpl>()->Hide();
+}
+
+void CKyUIDialog::setVisible(bool visible)
+{
+    implAs<CKyUIDialogImpl>()->SetVisible(visible);
+}
+
+void CKyUIDialog::setResult(int result)
+{
+    implAs<CKyUIDialogImpl>()->SetResult(result);
+}
+
+int CKyUIDialog::result() const
+{
+    return implAs<CKyUIDialogImpl>()->Result();
+}
+
+QString CKyUIDialog::windowTitle() const
+{
+    return implAs<CKyUIDialogImpl>()->WindowTitle();
+}
+
+void CKyUIDialog::setWindowTitle(const QString& title)
+{
+    implAs<CKyUIDialogImpl>()->SetWindowTitle(title);
+}
+
+CKyUISignal<void()>& CKyUIDialog::accepted()
+{
+    return implAs<CKyUIDialogImpl>()->Accepted();
+}
+
+CKyUISignal<void()>& CKyUIDialog::rejected()
+{
+    return implAs<CKyUIDialogImpl>()->Rejected();
+}
+
+CKyUISignal<void(int)>& CKyUIDialog::finished()
+{
+    return implAs<CKyUIDialogImpl>()->Finished();
+}

@@ -1,0 +1,58 @@
+#include "UI/CKyUIDialogButtonBox.h"
+
+#include "UI/CKyUIDialog.h"
+#include "UI/CKyUIPushButton.h"
+#include "UI/Impl/CKyUIDialogButtonBoxImpl.h"
+
+CKyUIDialogButtonBox::CKyUIDialogButtonBox(CKyUIDialog* dialog)
+{
+    auto* impl = new CKyUIDialogButtonBoxImpl(this, dialog);
+    setImpl(impl);
+    if (!dialog)
+        return;
+    // Owned by the dialog, although its widget sits in the root layout.
+    setParent(dialog);
+
+    // None of these is ever disconnected. The two on the dialog may outlive
+    // the box, so they look it up through its lifetime token.
+    const std::weak_ptr<CKyUIDialogButtonBoxImpl*> lifetime = impl->Lifetime();
+    dialog->accepted().connect([lifetime]() {
+        if (const auto alive = lifetime.lock())
+            (*alive)->Button(Ok)->clicked().Emit(true);
+    });
+    dialog->rejected().connect([lifetime]() {
+        if (const auto alive = lifetime.lock())
+            (*alive)->Button(Cancel)->clicked().Emit(true);
+    });
+    impl->Button(Ok)->clicked().connect([impl](bool) { impl->Accepted().Emit(); });
+    impl->Button(Cancel)->clicked().connect([impl](bool) { impl->Rejected().Emit(); });
+}
+
+CKyUIDialogButtonBox::~CKyUIDialogButtonBox() = default;
+
+void CKyUIDialogButtonBox::setStandardButtons(StandardButtons) {}
+
+CKyUIPushButton* CKyUIDialogButtonBox::button(StandardButton which) const
+{
+    return implAs<CKyUIDialogButtonBoxImpl>()->Button(which);
+}
+
+CKyUISignal<void()>& CKyUIDialogButtonBox::accepted()
+{
+    return implAs<CKyUIDialogButtonBoxImpl>()->Accepted();
+}
+
+CKyUISignal<void(CKyUIPushButton*)>& CKyUIDialogButtonBox::clicked()
+{
+    return implAs<CKyUIDialogButtonBoxImpl>()->Clicked();
+}
+
+CKyUISignal<void()>& CKyUIDialogButtonBox::helpRequest()
+{
+    return implAs<CKyUIDialogButtonBoxImpl>()->HelpRequest();
+}
+
+CKyUISignal<void()>& CKyUIDialogButtonBox::rejected()
+{
+    return implAs<CKyUIDialogButtonBoxImpl>()->Rejected();
+}

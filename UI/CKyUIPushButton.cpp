@@ -1,0 +1,54 @@
+#include "UI/CKyUIPushButton.h"
+
+#include "UI/Impl/CKyUIPushButtonImpl.h"
+
+CKyUIPushButton::CKyUIPushButton()
+{
+    auto* impl = new CKyUIPushButtonImpl(this);
+    setImpl(impl);
+    impl->CreateFrontendControl();
+}
+
+CKyUIPushButton::~CKyUIPushButton() = default;
+
+void CKyUIPushButton::setText(const QString& text)
+{
+    implAs<CKyUIPushButtonImpl>()->SetText(text);
+}
+
+QString CKyUIPushButton::text() const
+{
+    return implAs<CKyUIPushButtonImpl>()->Text();
+}
+
+void CKyUIPushButton::setIcon(const QIcon& icon)
+{
+    implAs<CKyUIPushButtonImpl>()->SetIcon(icon);
+}
+
+void CKyUIPushButton::setResourceIcon(const QString&) {}
+
+void CKyUIPushButton::setTextAlignment(TextAlignment alignment)
+{
+    implAs<CKyUIPushButtonImpl>()->SetTextAlignmentImpl(alignment);
+}
+
+void CKyUIPushButton::setBoldText(bool bold)
+{
+    implAs<CKyUIPushButtonImpl>()->SetBoldTextImpl(bold);
+}
+
+void CKyUIPushButton::setToolTip(const QString& toolTip)
+{
+    implAs<CKyUIPushButtonImpl>()->SetToolTipImpl(toolTip);
+}
+
+void CKyUIPushButton::setCheckable(bool checkable)
+{
+    implAs<CKyUIPushButtonImpl>()->SetCheckableImpl(checkable);
+}
+
+CKyUISignal<void(bool)>& CKyUIPushButton::clicked()
+{
+    return implAs<CKyUIPushButtonImpl>()->Clicked();
+}

@@ -1,0 +1,57 @@
+#include "UI/Impl/CKyUIDialogButtonBoxImpl.h"
+
+#include "UI/CKyUIDialogButtonBox.h"
+#include "UI/CKyUIPushButton.h"
+
+CKyUIDialogButtonBoxImpl::CKyUIDialogButtonBoxImpl(CKyUIDialogButtonBox* owner, CKyUIDialog* dialog)
+    : CKyUIBaseViewImpl(owner)
+    , m_box(owner)
+    , m_accepted(owner)
+    , m_clicked(owner)
+    , m_helpRequest(owner)
+    , m_rejected(owner)
+    , m_lifetime(std::make_shared<CKyUIDialogButtonBoxImpl*>(this))
+{
+    CreateButtonBoxImpl(dialog);
+}
+
+CKyUIDialogButtonBoxImpl::~CKyUIDialogButtonBoxImpl()
+{
+    DisconnectButtonBoxImpl();
+    // The wrappers' handles are the toolkit box's own buttons: forget them
+    // first so that the wrappers do not release them.
+    for (CKyUIPushButton* wrapper : {m_okButton, m_cancelButton, m_helpButton}) {
+        if (wrapper)
+            wrapper->setHandle(nullptr);
+    }
+    delete m_okButton;
+    delete m_cancelButton;
+    delete m_helpButton;
+}
+
+CKyUIPushButton* CKyUIDialogButtonBoxImpl::Button(int which) const
+{
+    switch (which) {
+    case CKyUIDialogButtonBox::Ok:
+        return m_okButton;
+    case CKyUIDialogButtonBox::Cancel:
+        return m_cancelButton;
+    case CKyUIDialogButtonBox::Help:
+        return m_helpButton;
+    default:
+        return nullptr;
+    }
+}
+
+void CKyUIDialogButtonBoxImpl::OnResult(int code)
+{
+    if (code == 1)
+        m_accepted.Emit();
+    else
+        m_rejected.Emit();
+}
+
+void CKyUIDialogButtonBoxImpl::OnClicked()
+{
+    m_clicked.Emit(m_helpButton);
+}

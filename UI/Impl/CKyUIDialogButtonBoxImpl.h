@@ -1,0 +1,59 @@
+#pragma once
+
+#include "UI/CKyUISignal.h"
+#include "UI/Impl/CKyUIBaseViewImpl.h"
+
+#include <QtCore/QMetaObject>
+
+#include <memory>
+
+class CKyUIDialog;
+class CKyUIDialogButtonBox;
+class CKyUIPushButton;
+class QDialogButtonBox;
+
+// Drives one QDialogButtonBox with OK, Cancel and Help, each wrapped in a
+// CKyUIPushButton whose handle is the box's own button.
+class CKyUIDialogButtonBoxImpl : public CKyUIBaseViewImpl
+{
+public:
+    CKyUIDialogButtonBoxImpl(CKyUIDialogButtonBox* owner, CKyUIDialog* dialog);
+    ~CKyUIDialogButtonBoxImpl() override;
+
+    CKyUIPushButton* Button(int which) const;
+
+    CKyUISignal<void()>& Accepted() { return m_accepted; }
+    CKyUISignal<void(CKyUIPushButton*)>& Clicked() { return m_clicked; }
+    CKyUISignal<void()>& HelpRequest() { return m_helpRequest; }
+    CKyUISignal<void()>& Rejected() { return m_rejected; }
+
+    // 1 reports acceptance, anything else rejection.
+    void OnResult(int code);
+    // Reports the Help wrapper for every button, deliberately.
+    void OnClicked();
+
+    // Lets the connections made on the dialog's signals, which outlive a box
+    // deleted early, find out whether the box still exists.
+    std::weak_ptr<CKyUIDialogButtonBoxImpl*> Lifetime() const { return m_lifetime; }
+
+private:
+    // Creates the toolkit box inside the dialog, joins the dialog's root
+    // layout and wraps the three buttons, connecting the box's signals.
+    void CreateButtonBoxImpl(CKyUIDialog* dialog);
+    // The toolkit box outlives us until the event loop deletes it.
+    void DisconnectButtonBoxImpl();
+    QDialogButtonBox* GetButtonBox() const;
+
+    CKyUIDialogButtonBox* const m_box;
+    CKyUIPushButton* m_okButton = nullptr;     // owned
+    CKyUIPushButton* m_cancelButton = nullptr; // owned
+    CKyUIPushButton* m_helpButton = nullptr;   // owned
+    CKyUISignal<void()> m_accepted;
+    CKyUISignal<void(CKyUIPushButton*)> m_clicked;
+    CKyUISignal<void()> m_helpRequest;
+    CKyUISignal<void()> m_rejected;
+    QMetaObject::Connection m_toolkitAccepted;
+    QMetaObject::Connection m_toolkitRejected;
+    QMetaObject::Connection m_toolkitClicked;
+    const std::shared_ptr<CKyUIDialogButtonBoxImpl*> m_lifetime;
+};

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "UI/CKyUISignal.h"
+#include "UI/Impl/CKyUIObjectImpl.h"
+
+class CKyUIDialog;
+class CKyUIShowEvent;
+class CKyUIHideEvent;
+class CKyUIVerticalLayout;
+class QObject;
+class QVBoxLayout;
+
+// Drives one plain QDialog: the theme, the root layout, the result code and
+// the host notification around a modal run.
+class CKyUIDialogImpl : public CKyUIObjectImpl
+{
+public:
+    explicit CKyUIDialogImpl(CKyUIDialog* owner);
+    ~CKyUIDialogImpl() override;
+
+    // Hand the events on to the public dialog.
+    virtual void showEvent(CKyUIShowEvent* event);
+    virtual void hideEvent(CKyUIHideEvent* event);
+
+    int Exec(bool modal);
+    void Accept();
+    void Reject();
+    void Done(int result);
+    void Hide();
+    void SetVisible(bool visible);
+    void SetResult(int result) { m_result = result; }
+    int Result() const { return m_result; }
+    void SetWindowTitle(const QString& title);
+    const QString& WindowTitle() const { return m_windowTitle; }
+    CKyUIVerticalLayout* GetLayout() const { return m_rootLayout; }
+
+    CKyUISignal<void()>& Accepted() { return m_accepted; }
+    CKyUISignal<void()>& Rejected() { return m_rejected; }
+    CKyUISignal<void(int)>& Finished() { return m_finished; }
+
+    // No toolkit signal is connected to these; client code may call them.
+    void OnAccepted();
+    void OnAcceptPressed();
+    void OnRejected();
+    void OnRejectPressed();
+
+    // Toolkit steps; each does nothing unless the handle is a QDialog.
+    void CreateFrontendDialogImpl();
+    void DestroyFrontendDialogImpl();
+    // The argument is not used.
+    void SetupUIImpl(QObject* parent);
+    // The toolkit's result, or the stored one without a dialog.
+    int ExecImpl(bool modal);
+    void HideImpl();
+    void SetVisibleImpl(bool visible);
+    void SetWindowTitleImpl(const QString& title);
+
+private:
+    // Tells the active document's host object whether a modal dialog runs;
+    // without a host object nobody is told.
+    static void NotifyHost(bool running);
+
+    CKyUIDialog* const m_dialog;
+    QVBoxLayout* m_boxLayout = nullptr;          // owned by the QDialog
+    CKyUIVerticalLayout* m_rootLayout = nullptr; // owned
+    QString m_windowTitle;
+    int m_result = 0;
+    CKyUISignal<void()> m_accepted;
+    CKyUISignal<void()> m_rejected;
+    CKyUISignal<void(int)> m_finished;
+};

@@ -1,0 +1,37 @@
+#include "UI/Impl/CKyUIPushButtonImpl.h"
+
+#include "UI/CKyUIPushButton.h"
+
+CKyUIPushButtonImpl::CKyUIPushButtonImpl(CKyUIPushButton* owner)
+    : CKyUIBaseViewImpl(owner)
+    , m_clicked(owner)
+    , m_button(owner)
+{}
+
+CKyUIPushButtonImpl::~CKyUIPushButtonImpl() = default;
+
+QString CKyUIPushButtonImpl::GetFrontendClassName()
+{
+    return QStringLiteral("CKyUIPushButtonFrontend");
+}
+
+void CKyUIPushButtonImpl::SetText(const QString& text)
+{
+    if (m_text == text)
+        return;
+    m_text = text;
+    SetTextImpl(text);
+}
+
+void CKyUIPushButtonImpl::SetIcon(const QIcon& icon)
+{
+    m_icon = icon;
+    SetIconImpl(icon);
+}
+
+void CKyUIPushButtonImpl::OnPressed()
+{
+    // A click that unchecks a checkable button still reports true.
+    if (!m_button->signalsBlocked())
+        m_clicked.Emit(true);
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "UI/CKyUISignal.h"
+#include "UI/Impl/CKyUIBaseViewImpl.h"
+
+#include <QtGui/QIcon>
+
+class CKyUIPushButton;
+class CKyUIPushButtonFrontend;
+
+// Drives a CKyUIPushButtonFrontend. Text and icon are recorded here; alignment
+// and boldness live only in the widget's style sheet.
+class CKyUIPushButtonImpl : public CKyUIBaseViewImpl
+{
+public:
+    explicit CKyUIPushButtonImpl(CKyUIPushButton* owner);
+    ~CKyUIPushButtonImpl() override;
+
+    QString GetFrontendClassName() override;
+    void CreateFrontendControl() override;
+
+    void SetText(const QString& text);
+    const QString& Text() const { return m_text; }
+    void SetIcon(const QIcon& icon);
+    const QIcon& Icon() const { return m_icon; }
+    CKyUISignal<void(bool)>& Clicked() { return m_clicked; }
+
+    // Driven by the toolkit's clicked(): the name is kept for what it always
+    // was, the end of a press.
+    void OnPressed();
+
+    // Toolkit steps; each does nothing unless the handle is the frontend.
+    void SetTextImpl(const QString& text);
+    void SetIconImpl(const QIcon& icon);
+    void SetTextAlignmentImpl(int alignment);
+    void SetBoldTextImpl(bool bold);
+    void SetToolTipImpl(const QString& toolTip);
+    void SetCheckableImpl(bool checkable);
+
+private:
+    CKyUIPushButtonFrontend* GetFrontend() const;
+
+    QString m_text;
+    QIcon m_icon;
+    CKyUISignal<void(bool)> m_clicked;
+    CKyUIPushButton* const m_button;
+};

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "UI/CKyUIDialog.h"
+
+class CKyUILabel;
+
+// The dialog a drilling plug-in shows before it places a pattern of holes.
+class HolePatternDialog : public CKyUIDialog
+{
+public:
+    void SetupUI() override;
+
+private:
+    CKyUILabel* m_status = nullptr;
+};

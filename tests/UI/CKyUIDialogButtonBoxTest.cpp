@@ -1,0 +1,222 @@
+#include "UI/Impl/qt/CKyUIPushButtonFrontend.h"
+#include "support/TestDialogs.h"
+
+#include <QtCore/QPointer>
+#include <QtWidgets/QDialogButtonBox>
+#include <QtWidgets/QGroupBox>
+#include <QtWidgets/QPushButton>
+
+namespace
+{
+QDialogButtonBox* ToolkitBoxOf(const CKyUIDialogButtonBox& box)
+{
+    return qobject_cast<QDialogButtonBox*>(box.getHandle());
+}
+
+// Records the box's four signals and the three wrappers' clicked().
+void Record(CKyUIDialogButtonBox& box, Log& log)
+{
+    box.accepted().connect([&log]() { log.push_back("accepted"); });
+    box.rejected().connect([&log]() { log.push_back("rejected"); });
+    box.helpRequest().connect([&log]() { log.push_back("helpRequest"); });
+    box.clicked().connect([&log, &box](CKyUIPushButton* which) {
+        if (which == box.button(CKyUIDialogButtonBox::Ok))
+            log.push_back("clicked Ok");
+        else if (which == box.button(CKyUIDialogButtonBox::Cancel))
+            log.push_back("clicked Cancel");
+        else if (which == box.button(CKyUIDialogButtonBox::Help))
+            log.push_back("clicked Help");
+        else
+            log.push_back("clicked ?");
+    });
+    const std::pair<CKyUIDialogButtonBox::StandardButton, std::string> wrappers[] = {
+        {CKyUIDialogButtonBox::Ok, "Ok"},
+        {CKyUIDialogButtonBox::Cancel, "Cancel"},
+        {CKyUIDialogButtonBox::Help, "Help"}};
+    for (const auto& wrapper : wrappers) {
+        const std::string name = wrapper.second;
+        box.button(wrapper.first)->clicked().connect([&log, name](bool checked) {
+            log.push_back(name + " wrapper clicked " + (checked ? "true" : "false"));
+        });
+    }
+}
+
+// A dialog set up and shown without a modal loop. It counts accept() and
+// reject() instead of closing, so each press can be looked at alone.
+class ShownDialog : public SampleDialog
+{
+public:
+    ShownDialog() { SetUpAndShow(*this); }
+    void accept() override { ++accepts; }
+    void reject() override { ++rejects; }
+    int accepts = 0;
+    int rejects = 0;
+};
+} // namespace
+
+TEST(CKyUIDialogButtonBoxTest, HasOkCancelAndHelpWrappingTheToolkitButtons)
+{
+    ShownDialog dialog;
+    CKyUIDialogButtonBox& box = *dialog.box;
+    QDialogButtonBox* toolkit = ToolkitBoxOf(box);
+    ASSERT_NE(toolkit, nullptr);
+    EXPECT_EQ(toolkit->standardButtons(),
+              QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Help);
+    EXPECT_EQ(int(toolkit->standardButtons()), 0x01400400);
+    EXPECT_EQ(toolkit->minimumHeight(), 30);
+
+    CKyUIPushButton* ok = box.button(CKyUIDialogButtonBox::Ok);
+    CKyUIPushButton* cancel = box.button(CKyUIDialogButtonBox::Cancel);
+    CKyUIPushButton* help = box.button(CKyUIDialogButtonBox::Help);
+    ASSERT_TRUE(ok && cancel && help);
+    EXPECT_NE(ok, cancel);
+    EXPECT_NE(cancel, help);
+    EXPECT_NE(ok, help);
+    EXPECT_EQ(ok->getHandle(), toolkit->button(QDialogButtonBox::Ok));
+    EXPECT_EQ(cancel->getHandle(), toolkit->button(QDialogButtonBox::Cancel));
+    EXPECT_EQ(help->getHandle(), toolkit->button(QDialogButtonBox::Help));
+    // The wrappers hold the box's plain buttons, not frontends of their own.
+    EXPECT_EQ(qobject_cast<CKyUIPushButtonFrontend*>(ok->getHandle()), nullptr);
+
+    const int okAndCancel =
+        CKyUIDialogButtonBox::StandardButtons(CKyUIDialogButtonBox::Ok | CKyUIDialogButtonBox::Cancel);
+    EXPECT_EQ(box.button(static_cast<CKyUIDialogButtonBox::StandardButton>(okAndCancel)), nullptr);
+    EXPECT_EQ(box.button(static_cast<CKyUIDialogButtonBox::StandardButton>(0)), nullptr);
+    EXPECT_EQ(box.button(static_cast<CKyUIDialogButtonBox::StandardButton>(0x00000800)), nullptr);
+
+    box.setStandardButtons(CKyUIDialogButtonBox::Ok);
+    EXPECT_EQ(toolkit->buttons().size(), 3);
+    for (QAbstractButton* button : toolkit->buttons())
+        EXPECT_TRUE(button->isVisible());
+}
+
+TEST(CKyUIDialogButtonBoxTest, JoinsTheEndOfTheRootLayoutAndBelongsToTheDialog)
+{
+    ShownDialog dialog;
+    auto* root = qobject_cast<QGroupBox*>(dialog.GetLayout()->getHandle());
+    QLayout* column = root->layout();
+    EXPECT_EQ(column->itemAt(column->count() - 1)->widget(), dialog.box->getHandle());
+    EXPECT_EQ(dialog.box->parent(), &dialog);
+    EXPECT_FALSE(dialog.GetLayout()->children().contains(dialog.box));
+    EXPECT_TRUE(dialog.children().contains(dialog.box));
+}
+
+TEST(CKyUIDialogButtonBoxTest, PressesReachClientsOnlyAsTheBoxsSignals)
+{
+    ShownDialog dialog;
+    Log log;
+    Record(*dialog.box, log);
+
+    QTest::mouseClick(dialog.boxButton(CKyUIDialogButtonBox::Ok), Qt::LeftButton);
+    EXPECT_EQ(log, (Log{"clicked Help", "accepted"}));
+    log.clear();
+
+    QTest::mouseClick(dialog.boxButton(CKyUIDialogButtonBox::Cancel), Qt::LeftButton);
+    EXPECT_EQ(log, (Log{"clicked Help", "rejected"}));
+    log.clear();
+
+    // Help: no helpRequest, ever.
+    QTest::mouseClick(dialog.boxButton(CKyUIDialogButtonBox::Help), Qt::LeftButton);
+    EXPECT_EQ(log, (Log{"clicked Help"}));
+
+    EXPECT_EQ(dialog.accepts, 1);
+    EXPECT_EQ(dialog.rejects, 1);
+}
+
+TEST(CKyUIDialogButtonBoxTest, TheBoxNeverClosesTheDialogByItself)
+{
+    SampleDialog dialog;
+    dialog.afterSetup = [](SampleDialog& self) {
+        // A client that listens to nothing.
+        self.box->blockSignals(true);
+    };
+    SetUpAndShow(dialog);
+    QTest::mouseClick(dialog.boxButton(CKyUIDialogButtonBox::Ok), Qt::LeftButton);
+    QTest::mouseClick(dialog.boxButton(CKyUIDialogButtonBox::Cancel), Qt::LeftButton);
+    EXPECT_TRUE(dialog.widget()->isVisible());
+    dialog.widget()->hide();
+}
+
+TEST(CKyUIDialogButtonBoxTest, TheDialogsSignalsAreReportedAsClicksOfOkAndCancel)
+{
+    ShownDialog dialog;
+    Log log;
+    Record(*dialog.box, log);
+
+    // The box's own slot on the wrapper's clicked was connected before the
+    // recording one, so its accepted comes first, inside that emission.
+    dialog.accepted().Emit();
+    EXPECT_EQ(log, (Log{"accepted", "Ok wrapper clicked true"}));
+    log.clear();
+    dialog.rejected().Emit();
+    EXPECT_EQ(log, (Log{"rejected", "Cancel wrapper clicked true"}));
+    log.clear();
+
+    // Blocking the box leaves the wrapper's report alone.
+    dialog.box->blockSignals(true);
+    dialog.accepted().Emit();
+    EXPECT_EQ(log, (Log{"Ok wrapper clicked true"}));
+    log.clear();
+
+    // Blocking the wrapper stops the chain at its start.
+    dialog.box->blockSignals(false);
+    dialog.box->button(CKyUIDialogButtonBox::Cancel)->blockSignals(true);
+    dialog.rejected().Emit();
+    EXPECT_TRUE(log.empty());
+}
+
+TEST(CKyUIDialogButtonBoxTest, ABlockedBoxReportsNoPresses)
+{
+    ShownDialog dialog;
+    Log log;
+    Record(*dialog.box, log);
+    dialog.box->blockSignals(true);
+    QTest::mouseClick(dialog.boxButton(CKyUIDialogButtonBox::Ok), Qt::LeftButton);
+    QTest::mouseClick(dialog.boxButton(CKyUIDialogButtonBox::Help), Qt::LeftButton);
+    EXPECT_TRUE(log.empty());
+    EXPECT_EQ(dialog.accepts, 0);
+}
+
+TEST(CKyUIDialogButtonBoxTest, DestroyingTheBoxLeavesTheToolkitButtonsToTheToolkitBox)
+{
+    ShownDialog dialog;
+    CKyUIDialogButtonBox* box = dialog.box;
+    QPointer<QDialogButtonBox> toolkit = ToolkitBoxOf(*box);
+    QPointer<QPushButton> ok = toolkit->button(QDialogButtonBox::Ok);
+    QPointer<QPushButton> help = toolkit->button(QDialogButtonBox::Help);
+
+    delete box;
+    dialog.box = nullptr;
+    EXPECT_FALSE(dialog.children().contains(box));
+    // The wrappers went without taking the buttons; the box goes later.
+    ASSERT_FALSE(toolkit.isNull());
+    EXPECT_FALSE(ok.isNull());
+    EXPECT_FALSE(help.isNull());
+
+    // A press before the toolkit box is gone reaches nobody; the dialog's
+    // signals, still connected to the box, do no harm either.
+    QTest::mouseClick(ok.data(), Qt::LeftButton);
+    dialog.accepted().Emit();
+    dialog.rejected().Emit();
+    EXPECT_EQ(dialog.accepts, 0);
+
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(toolkit.isNull());
+    EXPECT_TRUE(ok.isNull());
+}
+
+TEST(CKyUIDialogButtonBoxTest, ABoxMadeBeforeTheSetUpOrWithoutDialogStillWorks)
+{
+    RecordingHost host;
+    SampleDialog dialog;
+    auto* early = new CKyUIDialogButtonBox(&dialog);
+    EXPECT_EQ(early->parent(), &dialog);
+    EXPECT_EQ(ToolkitBoxOf(*early)->parentWidget(), dialog.widget());
+
+    CKyUIDialogButtonBox orphan(nullptr);
+    EXPECT_EQ(orphan.parent(), nullptr);
+    ASSERT_NE(ToolkitBoxOf(orphan), nullptr);
+    EXPECT_EQ(ToolkitBoxOf(orphan)->parentWidget(), nullptr);
+    EXPECT_NE(orphan.button(CKyUIDialogButtonBox::Help), nullptr);
+    EXPECT_TRUE(host.calls.empty());
+}

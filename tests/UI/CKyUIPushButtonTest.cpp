@@ -1,0 +1,215 @@
+#include "UI/CKyUIPushButton.h"
+#include "UI/Impl/CKyUIPushButtonImpl.h"
+#include "UI/Impl/qt/CKyUIPushButtonFrontend.h"
+
+#include <gtest/gtest.h>
+
+#include <QtCore/QMetaMethod>
+#include <QtGui/QPixmap>
+#include <QtTest/QTest>
+
+#include <vector>
+
+namespace
+{
+CKyUIPushButtonFrontend* FrontendOf(const CKyUIPushButton& button)
+{
+    return qobject_cast<CKyUIPushButtonFrontend*>(button.getHandle());
+}
+
+// A shown button whose clicked() arguments are recorded.
+struct ClickableButton
+{
+    ClickableButton()
+    {
+        button.setText("Apply");
+        button.clicked().connect([this](bool checked) { clicks.push_back(checked); });
+        widget()->show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(widget()));
+    }
+    CKyUIPushButtonFrontend* widget() const { return FrontendOf(button); }
+    void click() { QTest::mouseClick(widget(), Qt::LeftButton); }
+
+    CKyUIPushButton button;
+    std::vector<bool> clicks;
+};
+} // namespace
+
+TEST(CKyUIPushButtonTest, CreatesItsFrontendAsAnAutoDefaultButton)
+{
+    CKyUIPushButton button;
+    CKyUIPushButtonFrontend* widget = FrontendOf(button);
+    ASSERT_NE(widget, nullptr);
+    EXPECT_STREQ(widget->metaObject()->className(), "CKyUIPushButtonFrontend");
+    EXPECT_EQ(widget->parentWidget(), nullptr);
+    EXPECT_EQ(widget->styleSheet(), "QPushButton { }");
+    EXPECT_TRUE(widget->autoDefault());
+    EXPECT_EQ(widget->impl, button.impl());
+
+    // The frontend-base part is reachable by name through the meta-object.
+    auto* base = static_cast<CKyUIFrontendBase<CKyUIPushButtonImpl>*>(
+        widget->qt_metacast("CKyUIFrontendBase<CKyUIPushButtonImpl>"));
+    ASSERT_NE(base, nullptr);
+    EXPECT_EQ(base->impl, button.impl());
+}
+
+TEST(CKyUIPushButtonTest, FrontendDeclaresThreeSlotsAndNoSignals)
+{
+    const QMetaObject& meta = CKyUIPushButtonFrontend::staticMetaObject;
+    std::vector<QByteArray> own;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+        const QMetaMethod method = meta.method(i);
+        EXPECT_EQ(method.methodType(), QMetaMethod::Slot);
+        EXPECT_EQ(method.access(), QMetaMethod::Public);
+        own.push_back(method.methodSignature());
+    }
+    EXPECT_EQ(own, (std::vector<QByteArray>{"OnPressed()", "OnReleased()", "OnClicked()"}));
+    EXPECT_EQ(meta.propertyCount(), meta.propertyOffset());
+}
+
+TEST(CKyUIPushButtonTest, AClickEmitsTrueOnReleaseAndOnlyThen)
+{
+    ClickableButton subject;
+    QTest::mousePress(subject.widget(), Qt::LeftButton);
+    EXPECT_TRUE(subject.clicks.empty());
+    QTest::mouseRelease(subject.widget(), Qt::LeftButton);
+    EXPECT_EQ(subject.clicks, std::vector<bool>{true});
+
+    QTest::keyClick(subject.widget(), Qt::Key_Space);
+    EXPECT_EQ(subject.clicks, (std::vector<bool>{true, true}));
+}
+
+TEST(CKyUIPushButtonTest, ACheckableButtonReportsTrueAlsoWhenAClickUnchecksIt)
+{
+    ClickableButton subject;
+    subject.button.setCheckable(true);
+    subject.click();
+    EXPECT_TRUE(subject.widget()->isChecked());
+    subject.click();
+    EXPECT_FALSE(subject.widget()->isChecked());
+    EXPECT_EQ(subject.clicks, (std::vector<bool>{true, true}));
+}
+
+TEST(CKyUIPushButtonTest, BlockedSignalsSilenceClicksButKeepTheSlot)
+{
+    ClickableButton subject;
+    subject.button.blockSignals(true);
+    subject.click();
+    EXPECT_TRUE(subject.clicks.empty());
+    subject.button.blockSignals(false);
+    subject.click();
+    EXPECT_EQ(subject.clicks, std::vector<bool>{true});
+}
+
+TEST(CKyUIPushButtonTest, AlignmentIsReplacedNotAccumulated)
+{
+    CKyUIPushButton button;
+    button.setTextAlignment(CKyUIPushButton::Left);
+    EXPECT_EQ(FrontendOf(button)->styleSheet(), "QPushButton { text-align:left;}");
+    button.setTextAlignment(CKyUIPushButton::Center);
+    EXPECT_EQ(FrontendOf(button)->styleSheet(), "QPushButton { text-align:center;}");
+    button.setTextAlignment(CKyUIPushButton::Right);
+    EXPECT_EQ(FrontendOf(button)->styleSheet(), "QPushButton { text-align:right;}");
+
+    // Out of range: the old alignment goes and nothing takes its place.
+    button.setTextAlignment(static_cast<CKyUIPushButton::TextAlignment>(7));
+    EXPECT_EQ(FrontendOf(button)->styleSheet(), "QPushButton { }");
+
+    // Blanks and tabs around the colon are matched too.
+    FrontendOf(button)->setStyleSheet("QPushButton { text-align \t: \tright ; color: red; }");
+    button.setTextAlignment(CKyUIPushButton::Left);
+    EXPECT_EQ(FrontendOf(button)->styleSheet(), "QPushButton {  color: red; text-align:left;}");
+}
+
+TEST(CKyUIPushButtonTest, ASheetWithoutBraceGetsTheDeclarationAppended)
+{
+    CKyUIPushButton button;
+    FrontendOf(button)->setStyleSheet("color: red;");
+    button.setTextAlignment(CKyUIPushButton::Center);
+    EXPECT_EQ(FrontendOf(button)->styleSheet(), "color: red;text-align:center;");
+    button.setBoldText(true);
+    EXPECT_EQ(FrontendOf(button)->styleSheet(), "color: red;text-align:center;font-weight: bold;");
+}
+
+TEST(CKyUIPushButtonTest, BoldIsReplacedButNumericWeightsStay)
+{
+    CKyUIPushButton button;
+    button.setBoldText(true);
+    EXPECT_EQ(FrontendOf(button)->styleSheet(), "QPushButton { font-weight: bold;}");
+    button.setBoldText(false);
+    EXPECT_EQ(FrontendOf(button)->styleSheet(), "QPushButton { font-weight: normal;}");
+
+    // No digit is in the pattern at all, not even 1 to 9.
+    FrontendOf(button)->setStyleSheet("QPushButton { font-weight: 600; }");
+    button.setBoldText(true);
+    EXPECT_EQ(FrontendOf(button)->styleSheet(), "QPushButton { font-weight: 600; font-weight: bold;}");
+}
+
+TEST(CKyUIPushButtonTest, RewritesGoBeforeTheLastBraceOfTheWholeSheet)
+{
+    CKyUIPushButton button;
+    button.setBorderWidth(2);
+    button.setTextAlignment(CKyUIPushButton::Left);
+    button.setBoldText(true);
+    EXPECT_EQ(FrontendOf(button)->styleSheet(),
+              "QPushButton { border-style:solid;border-width:2px;text-align:left;font-weight: bold;}");
+
+    FrontendOf(button)->setStyleSheet("QPushButton { color: red; } QPushButton:hover { }");
+    button.setTextAlignment(CKyUIPushButton::Right);
+    EXPECT_EQ(FrontendOf(button)->styleSheet(),
+              "QPushButton { color: red; } QPushButton:hover { text-align:right;}");
+}
+
+TEST(CKyUIPushButtonTest, TextAndIconAreRecordedAndShown)
+{
+    CKyUIPushButton button;
+    button.setText("OK");
+    EXPECT_EQ(FrontendOf(button)->text(), "OK");
+    // The getter answers from the record, not from the widget.
+    FrontendOf(button)->setText("changed elsewhere");
+    EXPECT_EQ(button.text(), "OK");
+
+    QPixmap pixmap(8, 8);
+    pixmap.fill(Qt::blue);
+    const QIcon icon(pixmap);
+    button.setIcon(icon);
+    EXPECT_FALSE(FrontendOf(button)->icon().isNull());
+    EXPECT_EQ(static_cast<CKyUIPushButtonImpl*>(button.impl())->Icon().cacheKey(), icon.cacheKey());
+
+    button.setToolTip("Apply the changes");
+    EXPECT_EQ(FrontendOf(button)->toolTip(), "Apply the changes");
+    button.setCheckable(true);
+    EXPECT_TRUE(FrontendOf(button)->isCheckable());
+}
+
+TEST(CKyUIPushButtonTest, ResourceIconChangesNothing)
+{
+    CKyUIPushButton button;
+    button.setText("Open");
+    button.setResourceIcon(":/commonui/resources/icons/chevron_down.png");
+    EXPECT_EQ(button.text(), "Open");
+    EXPECT_EQ(FrontendOf(button)->text(), "Open");
+    EXPECT_TRUE(FrontendOf(button)->icon().isNull());
+    EXPECT_TRUE(static_cast<CKyUIPushButtonImpl*>(button.impl())->Icon().isNull());
+    EXPECT_EQ(FrontendOf(button)->styleSheet(), "QPushButton { }");
+}
+
+TEST(CKyUIPushButtonTest, WithAnotherHandleOnlyTheRecordChanges)
+{
+    CKyUIPushButton button;
+    CKyUIPushButtonFrontend* own = FrontendOf(button);
+    QPushButton plain;
+    plain.setStyleSheet("QPushButton { }");
+    button.setHandle(&plain);
+
+    button.setText("stored");
+    button.setTextAlignment(CKyUIPushButton::Left);
+    button.setBoldText(true);
+    button.setCheckable(true);
+    EXPECT_EQ(button.text(), "stored");
+    EXPECT_TRUE(plain.text().isEmpty());
+    EXPECT_EQ(plain.styleSheet(), "QPushButton { }");
+    EXPECT_FALSE(plain.isCheckable());
+
+    button.setHandle(own);
+}
