@@ -1,4 +1,5 @@
 #include "UI/CKyUIComboBox.h"
+#include "support/QtPrinters.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,5 @@
 #include "UI/CKyUIRadioButton.h"
+#include "support/QtPrinters.h"
 
 #include <gtest/gtest.h>
 

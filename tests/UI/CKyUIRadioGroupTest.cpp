@@ -1,6 +1,7 @@
 #include "UI/CKyUIRadioGroup.h"
 #include "UI/CKyUIGroupBox.h"
 #include "UI/CKyUIRadioButton.h"
+#include "support/QtPrinters.h"
 
 #include <gtest/gtest.h>
 

@@ -1,11 +1,11 @@
 #include "UI/CKyUITextEdit.h"
+#include "support/QtPrinters.h"
+#include "support/TestDialogs.h"
 
 #include <gtest/gtest.h>
 
 #include <QtCore/QStringList>
-#include <QtCore/QTimer>
 #include <QtTest/QTest>
-#include <QtWidgets/QDialog>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QVBoxLayout>
@@ -115,42 +115,35 @@ TEST(CKyUITextEditTest, BlockedSignalsStillLetTheTextFollowTheWidget)
 
 TEST(CKyUITextEditTest, ReturnAndEnterNeverReachTheDialogsDefaultButton)
 {
-    // The dialog outlives the view, which releases its widget first.
-    QDialog dialog;
+    RecordingHost host;
+    SampleDialog dialog;
     QStringList log;
-    CKyUITextEdit edit(CKyUITextEdit::Large);
-    Record(edit, log);
-    edit.setText("value");
-    log.clear();
+    CKyUITextEdit* edit = nullptr;
+    dialog.afterSetup = [&](SampleDialog& self) {
+        edit = new CKyUITextEdit(CKyUITextEdit::Large);
+        self.GetLayout()->insertView(edit, 0);
+        edit->setText("value");
+        Record(*edit, log);
+        self.box->accepted().connect([&log] { log.append("box accepted"); });
+    };
 
-    auto* layout = new QVBoxLayout(&dialog);
-    layout->addWidget(WidgetOf(edit));
-    auto* ok = new QPushButton("OK");
-    ok->setDefault(true);
-    layout->addWidget(ok);
-    int defaultClicks = 0;
-    QObject::connect(ok, &QPushButton::clicked, &dialog, [&defaultClicks, &dialog] {
-        ++defaultClicks;
-        dialog.accept();
-    });
-
-    bool visibleAfterKeys = false;
-    QTimer::singleShot(0, &dialog, [&] {
-        QLineEdit* widget = WidgetOf(edit);
+    bool runningAfterKeys = false;
+    const int result = RunModally(dialog, [&](SampleDialog& self) {
+        // OK is the default button: a Return anywhere else would press it.
+        ASSERT_TRUE(qobject_cast<QPushButton*>(self.boxButton(CKyUIDialogButtonBox::Ok))->isDefault());
+        QLineEdit* widget = WidgetOf(*edit);
         widget->setFocus();
+        QTRY_VERIFY(widget->hasFocus());
         QTest::keyClick(widget, Qt::Key_Return);
         QTest::keyClick(widget, Qt::Key_Enter, Qt::KeypadModifier);
-        QTest::keyClick(widget, Qt::Key_Enter);
-        visibleAfterKeys = dialog.isVisible();
-        dialog.done(7);
+        runningAfterKeys = self.widget()->isVisible() && QApplication::activeModalWidget() == self.widget();
+        self.reject();
     });
-    const int result = dialog.exec();
 
-    EXPECT_TRUE(visibleAfterKeys);
-    EXPECT_EQ(result, 7);
-    EXPECT_EQ(defaultClicks, 0);
-    EXPECT_EQ(log, QStringList({"return", "return", "return"}));
-    EXPECT_EQ(edit.text(), "value");
+    EXPECT_TRUE(runningAfterKeys);
+    EXPECT_EQ(result, 0);
+    EXPECT_EQ(log, QStringList({"return", "return"}));
+    EXPECT_EQ(edit->text(), "value");
 }
 
 TEST(CKyUITextEditTest, PlaceholderAndMaskAreForwardedOnlyWhenChangedTheClearButtonAlways)

@@ -1,4 +1,5 @@
 #include "UI/CKyUITextView.h"
+#include "support/QtPrinters.h"
 
 #include <gtest/gtest.h>
 
