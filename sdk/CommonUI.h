@@ -2,6 +2,11 @@
 
 // Every public header of the library.
 
+#include "NA/CKyNANetworkAccessManager.h"
+#include "NA/CKyNANetworkReply.h"
+#include "NA/CKyNANetworkRequest.h"
+#include "NA/CKyNAWebSocket.h"
+#include "NA/CKyNAWebSocketProtocol.h"
 #include "UI/CKyUIBaseView.h"
 #include "UI/CKyUICheckBox.h"
 #include "UI/CKyUIComboBox.h"

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "UI/Impl/CKyUIObjectImpl.h"
+
+class QByteArray;
+class QIODevice;
+class QNetworkAccessManager;
+class QNetworkReply;
+class QNetworkRequest;
+class CKyNANetworkAccessManager;
+class CKyNANetworkReply;
+class CKyNANetworkRequest;
+
+// Drives one toolkit access manager; keeps no list of its replies.
+class CKyNANetworkAccessManagerImpl : public CKyUIObjectImpl
+{
+public:
+    // Applies when the request sets no positive time-out of its own.
+    static constexpr int DefaultTimeoutMs = 30000;
+
+    explicit CKyNANetworkAccessManagerImpl(CKyNANetworkAccessManager* owner);
+    ~CKyNANetworkAccessManagerImpl() override;
+
+    CKyNANetworkReply* get(const CKyNANetworkRequest& request);
+    CKyNANetworkReply* post(const CKyNANetworkRequest& request, QIODevice* data);
+    CKyNANetworkReply* post(const CKyNANetworkRequest& request, const QByteArray& data);
+    CKyNANetworkReply* put(const CKyNANetworkRequest& request, QIODevice* data);
+    CKyNANetworkReply* put(const CKyNANetworkRequest& request, const QByteArray& data);
+    CKyNANetworkReply* deleteResource(const CKyNANetworkRequest& request);
+
+    // Toolkit steps.
+    void CreateNetworkAccessManagerImpl();
+    void DestroyNetworkAccessManagerImpl();
+    CKyNANetworkReply* GetImpl(const CKyNANetworkRequest& request);
+    CKyNANetworkReply* PostImpl(const CKyNANetworkRequest& request, QIODevice* data);
+    CKyNANetworkReply* PostImpl(const CKyNANetworkRequest& request, const QByteArray& data);
+    CKyNANetworkReply* PutImpl(const CKyNANetworkRequest& request, QIODevice* data);
+    CKyNANetworkReply* PutImpl(const CKyNANetworkRequest& request, const QByteArray& data);
+    CKyNANetworkReply* DeleteResourceImpl(const CKyNANetworkRequest& request);
+
+private:
+    // The toolkit manager and request, or false when either is missing.
+    bool Toolkit(const CKyNANetworkRequest& request, QNetworkAccessManager*& manager,
+                 QNetworkRequest*& toolkitRequest) const;
+    // Arms the time-out on a started toolkit reply and wraps it.
+    static CKyNANetworkReply* StartReply(QNetworkReply* reply, const CKyNANetworkRequest& request);
+};

@@ -1,0 +1,142 @@
+#include "NA/Impl/CKyNANetworkRequestImpl.h"
+
+#include <QtNetwork/QNetworkRequest>
+
+// The codes go to the toolkit unchanged, so they must be the toolkit's.
+static_assert(int(CKyNANetworkRequest::ContentTypeHeader) == int(QNetworkRequest::ContentTypeHeader), "");
+static_assert(int(CKyNANetworkRequest::SetCookieHeader) == int(QNetworkRequest::SetCookieHeader), "");
+static_assert(int(CKyNANetworkRequest::ServerHeader) == int(QNetworkRequest::ServerHeader), "");
+static_assert(int(CKyNANetworkRequest::HttpStatusCodeAttribute) ==
+                  int(QNetworkRequest::HttpStatusCodeAttribute),
+              "");
+static_assert(int(CKyNANetworkRequest::BackgroundRequestAttribute) ==
+                  int(QNetworkRequest::BackgroundRequestAttribute),
+              "");
+static_assert(int(CKyNANetworkRequest::EmitAllUploadProgressSignalsAttribute) ==
+                  int(QNetworkRequest::EmitAllUploadProgressSignalsAttribute),
+              "");
+static_assert(int(CKyNANetworkRequest::RedirectPolicyAttribute) ==
+                  int(QNetworkRequest::RedirectPolicyAttribute),
+              "");
+static_assert(int(CKyNANetworkRequest::User) == int(QNetworkRequest::User), "");
+static_assert(int(CKyNANetworkRequest::UserMax) == int(QNetworkRequest::UserMax), "");
+
+CKyNANetworkRequestImpl::CKyNANetworkRequestImpl(CKyNANetworkRequest* owner, const QUrl& url)
+    : m_owner(owner)
+{
+    // The URL field stays empty: only setUrl writes it.
+    CreateNetworkRequestImpl(url);
+}
+
+CKyNANetworkRequestImpl::~CKyNANetworkRequestImpl()
+{
+    DestroyNetworkRequestImpl();
+}
+
+QUrl CKyNANetworkRequestImpl::url() const
+{
+    return m_url;
+}
+
+void CKyNANetworkRequestImpl::setUrl(const QUrl& url)
+{
+    m_url = url;
+    SetUrlImpl(url);
+}
+
+void CKyNANetworkRequestImpl::setHeader(CKyNANetworkRequest::KnownHeaders header, const QVariant& value)
+{
+    m_knownHeaders[int(header)] = value;
+    SetHeaderImpl(header, value);
+}
+
+QVariant CKyNANetworkRequestImpl::header(CKyNANetworkRequest::KnownHeaders header) const
+{
+    return m_knownHeaders.value(int(header));
+}
+
+void CKyNANetworkRequestImpl::setRawHeader(const QByteArray& name, const QByteArray& value)
+{
+    m_rawHeaders[name] = value;
+    SetRawHeaderImpl(name, value);
+}
+
+QVariant CKyNANetworkRequestImpl::rawHeader(const QByteArray& name) const
+{
+    const auto found = m_rawHeaders.constFind(name);
+    if (found == m_rawHeaders.constEnd())
+        return QVariant();
+    return QVariant(found.value());
+}
+
+QList<QByteArray> CKyNANetworkRequestImpl::rawHeaderList() const
+{
+    return m_rawHeaders.keys();
+}
+
+void CKyNANetworkRequestImpl::setRequestTimeout(int ms)
+{
+    m_requestTimeout = ms;
+}
+
+int CKyNANetworkRequestImpl::requestTimeout() const
+{
+    return m_requestTimeout;
+}
+
+QByteArray CKyNANetworkRequestImpl::GetKnowHeaderName(CKyNANetworkRequest::KnownHeaders header)
+{
+    switch (int(header)) {
+    case CKyNANetworkRequest::ContentTypeHeader:
+        return QByteArrayLiteral("Content-Type");
+    case CKyNANetworkRequest::ContentLengthHeader:
+        return QByteArrayLiteral("Content-Length");
+    case CKyNANetworkRequest::LocationHeader:
+        return QByteArrayLiteral("Location");
+    case CKyNANetworkRequest::LastModifiedHeader:
+        return QByteArrayLiteral("Last-Modified");
+    case CKyNANetworkRequest::CookieHeader:
+        return QByteArrayLiteral("Cookie");
+    case CKyNANetworkRequest::SetCookieHeader:
+        return QByteArrayLiteral("Set-Cookie");
+    case CKyNANetworkRequest::ContentDispositionHeader:
+        return QByteArrayLiteral("Content-Disposition");
+    case CKyNANetworkRequest::UserAgentHeader:
+        return QByteArrayLiteral("User-Agent");
+    case CKyNANetworkRequest::ServerHeader:
+        return QByteArrayLiteral("Server");
+    }
+    return QByteArray();
+}
+
+void CKyNANetworkRequestImpl::CreateNetworkRequestImpl(const QUrl& url)
+{
+    m_owner->setHandle(new QNetworkRequest(url));
+}
+
+void CKyNANetworkRequestImpl::DestroyNetworkRequestImpl()
+{
+    QNetworkRequest* request = m_owner->getHandle();
+    if (!request)
+        return;
+    delete request;
+    m_owner->setHandle(nullptr);
+}
+
+void CKyNANetworkRequestImpl::SetUrlImpl(const QUrl& url)
+{
+    if (QNetworkRequest* request = m_owner->getHandle())
+        request->setUrl(url);
+}
+
+void CKyNANetworkRequestImpl::SetHeaderImpl(CKyNANetworkRequest::KnownHeaders header, const QVariant& value)
+{
+    if (QNetworkRequest* request = m_owner->getHandle())
+        request->setHeader(QNetworkRequest::KnownHeaders(header), value);
+}
+
+void CKyNANetworkRequestImpl::SetRawHeaderImpl(const QByteArray& name, const QByteArray& value)
+{
+    if (QNetworkRequest* request = m_owner->getHandle())
+        request->setRawHeader(name, value);
+}

@@ -1,0 +1,222 @@
+#include "NA/CKyNANetworkAccessManager.h"
+#include "NA/CKyNANetworkReply.h"
+#include "NA/CKyNANetworkRequest.h"
+
+#include "NA/EventWait.h"
+#include "NA/HttpTestServer.h"
+#include "NA/ReplyRecorder.h"
+
+#include <QtCore/QBuffer>
+#include <QtCore/QPointer>
+#include <QtNetwork/QNetworkAccessManager>
+#include <QtNetwork/QNetworkReply>
+#include <QtNetwork/QTcpServer>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
+
+namespace
+{
+
+using Route = HttpTestServer::Route;
+using Mode = HttpTestServer::Mode;
+
+class NetworkAccessManager : public ::testing::Test
+{
+protected:
+    void SetUp() override { ASSERT_TRUE(server.isListening()); }
+
+    // Runs until the reply finished; false if it did not within the bound.
+    static bool waitFinished(const ReplyRecorder& recorder)
+    {
+        return waitUntil([&] { return recorder.isFinished(); });
+    }
+
+    HttpTestServer server;
+    CKyNANetworkAccessManager manager;
+};
+
+} // namespace
+
+TEST_F(NetworkAccessManager, GetFinishesWithStatusBodyAndRawHeaderBytes)
+{
+    Route hello;
+    hello.headers = {{"Content-Type", "text/plain"}, {"X-Custom", "abc"}};
+    hello.body = "hello";
+    server.setRoute("/hello", hello);
+
+    CKyNANetworkRequest request(server.url(QStringLiteral("/hello")));
+    request.setRawHeader("X-Client", "plug-in");
+    std::unique_ptr<CKyNANetworkReply> reply(manager.get(request));
+    ASSERT_TRUE(reply);
+    ReplyRecorder recorder(reply.get());
+    EXPECT_TRUE(reply->isRunning());
+
+    ASSERT_TRUE(waitFinished(recorder));
+    EXPECT_EQ(recorder.log, QStringList{QStringLiteral("finished")});
+    EXPECT_TRUE(reply->isFinished());
+    EXPECT_FALSE(reply->isRunning());
+    EXPECT_EQ(errorCode(*reply), CKyNANetworkReply::NoError);
+    EXPECT_EQ(reply->attribute(CKyNANetworkRequest::HttpStatusCodeAttribute).toInt(), 200);
+    EXPECT_EQ(reply->readAll(), QByteArray("hello"));
+
+    // Known headers come back as the bytes received, never as typed values.
+    const QVariant length = reply->header(CKyNANetworkRequest::ContentLengthHeader);
+    EXPECT_EQ(length.type(), QVariant::ByteArray);
+    EXPECT_EQ(length.toByteArray(), QByteArray("5"));
+    EXPECT_EQ(reply->header(CKyNANetworkRequest::ContentTypeHeader).toByteArray(), QByteArray("text/plain"));
+    EXPECT_EQ(reply->rawHeader("X-Custom"), QByteArray("abc"));
+
+    ASSERT_EQ(server.requests().size(), 1);
+    EXPECT_EQ(server.requests()[0].method, QByteArray("GET"));
+    EXPECT_EQ(server.requests()[0].header("X-Client"), QByteArray("plug-in"));
+}
+
+TEST_F(NetworkAccessManager, PostPutAndDeleteReachTheServerAsSent)
+{
+    Route echo;
+    echo.mode = Mode::Echo;
+    server.setRoute("/echo", echo);
+    CKyNANetworkRequest request(server.url(QStringLiteral("/echo")));
+    request.setHeader(CKyNANetworkRequest::ContentTypeHeader, QByteArray("application/octet-stream"));
+
+    QBuffer postBody;
+    postBody.setData("posted from a device");
+    postBody.open(QIODevice::ReadOnly);
+    QBuffer putBody;
+    putBody.setData(QByteArray("put from a device\0with a zero", 29));
+    putBody.open(QIODevice::ReadOnly);
+
+    // One at a time, so that the server's last request is the one checked.
+    struct Case
+    {
+        QByteArray method;
+        QByteArray body;
+        std::function<CKyNANetworkReply*()> start;
+    };
+    const Case cases[] = {
+        {"POST", "posted bytes", [&] { return manager.post(request, QByteArray("posted bytes")); }},
+        {"POST", postBody.data(), [&] { return manager.post(request, &postBody); }},
+        {"PUT", "put bytes", [&] { return manager.put(request, QByteArray("put bytes")); }},
+        {"PUT", putBody.data(), [&] { return manager.put(request, &putBody); }},
+        {"DELETE", QByteArray(), [&] { return manager.deleteResource(request); }},
+    };
+
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.method.constData());
+        std::unique_ptr<CKyNANetworkReply> reply(c.start());
+        ASSERT_TRUE(reply);
+        ReplyRecorder recorder(reply.get());
+        ASSERT_TRUE(waitFinished(recorder));
+        EXPECT_EQ(recorder.log, QStringList{QStringLiteral("finished")});
+        EXPECT_EQ(reply->rawHeader("X-Echo-Method"), c.method);
+        EXPECT_EQ(reply->readAll(), c.body);
+        EXPECT_GT(recorder.downloads, 0);
+        if (!c.body.isEmpty()) {
+            EXPECT_GT(recorder.uploads, 0);
+        }
+
+        const HttpTestRequest& received = server.requests().last();
+        EXPECT_EQ(received.method, c.method);
+        EXPECT_EQ(received.path, QByteArray("/echo"));
+        EXPECT_EQ(received.body, c.body);
+    }
+    EXPECT_EQ(server.requests().size(), 5);
+}
+
+TEST_F(NetworkAccessManager, EachCallReturnsANewReplyThatRemembersTheCallersRequest)
+{
+    server.setRoute("/", Route());
+    CKyNANetworkRequest request(server.url(QStringLiteral("/")));
+    std::unique_ptr<CKyNANetworkReply> first(manager.get(request));
+    std::unique_ptr<CKyNANetworkReply> second(manager.get(request));
+    ASSERT_TRUE(first && second);
+    EXPECT_NE(first.get(), second.get());
+    EXPECT_NE(first->getHandle(), second->getHandle());
+    EXPECT_EQ(first->request(), &request);
+    EXPECT_EQ(second->request(), &request);
+    // The toolkit replies belong to the toolkit manager.
+    EXPECT_EQ(first->getHandle()->parent(), manager.getHandle());
+}
+
+TEST_F(NetworkAccessManager, RefusedConnectionReportsErrorThenFinished)
+{
+    QTcpServer probe;
+    ASSERT_TRUE(probe.listen(QHostAddress::LocalHost, 0));
+    const quint16 port = probe.serverPort();
+    probe.close();
+
+    CKyNANetworkRequest request(QUrl(QStringLiteral("http://127.0.0.1:%1/").arg(port)));
+    std::unique_ptr<CKyNANetworkReply> reply(manager.get(request));
+    ReplyRecorder recorder(reply.get());
+    ASSERT_TRUE(waitFinished(recorder));
+    EXPECT_EQ(recorder.log, (QStringList{QStringLiteral("error:1"), QStringLiteral("finished")}));
+    EXPECT_EQ(errorCode(*reply), CKyNANetworkReply::ConnectionRefusedError);
+    EXPECT_FALSE(reply->errorString().isEmpty());
+}
+
+TEST_F(NetworkAccessManager, ServerClosingWithoutAnswerReportsRemoteHostClosed)
+{
+    Route hangUp;
+    hangUp.mode = Mode::CloseEarly;
+    server.setRoute("/hang-up", hangUp);
+
+    CKyNANetworkRequest request(server.url(QStringLiteral("/hang-up")));
+    std::unique_ptr<CKyNANetworkReply> reply(manager.get(request));
+    ReplyRecorder recorder(reply.get());
+    ASSERT_TRUE(waitFinished(recorder));
+    EXPECT_EQ(recorder.log, (QStringList{QStringLiteral("error:2"), QStringLiteral("finished")}));
+    EXPECT_EQ(errorCode(*reply), CKyNANetworkReply::RemoteHostClosedError);
+    EXPECT_FALSE(reply->attribute(CKyNANetworkRequest::HttpStatusCodeAttribute).isValid());
+    EXPECT_TRUE(reply->rawHeaderList().isEmpty());
+    EXPECT_FALSE(server.requests().isEmpty());
+}
+
+TEST_F(NetworkAccessManager, HttpErrorStatusStillDeliversStatusAndBody)
+{
+    // No route: the server answers 404 with a body.
+    CKyNANetworkRequest request(server.url(QStringLiteral("/missing")));
+    std::unique_ptr<CKyNANetworkReply> reply(manager.get(request));
+    ReplyRecorder recorder(reply.get());
+    ASSERT_TRUE(waitFinished(recorder));
+    EXPECT_EQ(recorder.log, (QStringList{QStringLiteral("error:203"), QStringLiteral("finished")}));
+    EXPECT_EQ(reply->attribute(CKyNANetworkRequest::HttpStatusCodeAttribute).toInt(), 404);
+    EXPECT_EQ(reply->readAll(), QByteArray("no route"));
+}
+
+TEST_F(NetworkAccessManager, ToolkitObjectsAreReleasedManagerAtOnceReplyLater)
+{
+    server.setRoute("/", Route());
+    auto* owned = new CKyNANetworkAccessManager;
+    QPointer<QObject> toolkitManager = owned->getHandle();
+    ASSERT_TRUE(qobject_cast<QNetworkAccessManager*>(toolkitManager));
+
+    CKyNANetworkRequest request(server.url(QStringLiteral("/")));
+    CKyNANetworkReply* reply = owned->get(request);
+    QPointer<QObject> toolkitReply = reply->getHandle();
+    ASSERT_TRUE(qobject_cast<QNetworkReply*>(toolkitReply));
+
+    delete reply;
+    EXPECT_FALSE(toolkitReply.isNull());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(toolkitReply.isNull());
+
+    delete owned;
+    EXPECT_TRUE(toolkitManager.isNull());
+}
+
+TEST_F(NetworkAccessManager, ReplyLeftBehindByItsManagerDoesNotReachForTheGoneToolkitReply)
+{
+    server.setRoute("/", Route());
+    auto* owned = new CKyNANetworkAccessManager;
+    CKyNANetworkRequest request(server.url(QStringLiteral("/")));
+    std::unique_ptr<CKyNANetworkReply> reply(owned->get(request));
+    delete owned;
+
+    EXPECT_EQ(reply->getHandle(), nullptr);
+    EXPECT_EQ(errorCode(*reply), CKyNANetworkReply::NoError);
+    EXPECT_TRUE(reply->readAll().isEmpty());
+    reply->abort();
+}

@@ -1,0 +1,208 @@
+#include "NA/CKyNANetworkReply.h"
+#include "NA/CKyNANetworkAccessManager.h"
+#include "NA/CKyNANetworkRequest.h"
+#include "NA/Impl/CKyNANetworkReplyImpl.h"
+
+#include "NA/EventWait.h"
+#include "NA/HttpTestServer.h"
+#include "NA/ReplyRecorder.h"
+
+#include <QtCore/QPointer>
+#include <QtNetwork/QNetworkReply>
+#include <QtTest/QSignalSpy>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace
+{
+
+using Route = HttpTestServer::Route;
+using Mode = HttpTestServer::Mode;
+using Pairs = CKyNANetworkReplyImpl::HeaderPairs;
+
+CKyNANetworkReplyImpl* implOf(CKyNANetworkReply& reply)
+{
+    return static_cast<CKyNANetworkReplyImpl*>(reply.impl());
+}
+
+class NetworkReply : public ::testing::Test
+{
+protected:
+    void SetUp() override { ASSERT_TRUE(server.isListening()); }
+
+    // Serves the given headers and body under /, fetches it and waits.
+    std::unique_ptr<CKyNANetworkReply> fetch(const HttpHeaderPairs& headers, const QByteArray& body = "body")
+    {
+        Route route;
+        route.headers = headers;
+        route.body = body;
+        server.setRoute("/", route);
+        std::unique_ptr<CKyNANetworkReply> reply(manager.get(request));
+        ReplyRecorder recorder(reply.get());
+        EXPECT_TRUE(waitUntil([&] { return recorder.isFinished(); }));
+        return reply;
+    }
+
+    HttpTestServer server;
+    CKyNANetworkAccessManager manager;
+    CKyNANetworkRequest request{server.url(QStringLiteral("/"))};
+};
+
+} // namespace
+
+TEST_F(NetworkReply, NothingIsReadableBeforeTheTransferEnds)
+{
+    Route half;
+    half.mode = Mode::StallMidBody;
+    half.headers = {{"Content-Type", "text/plain"}};
+    half.body = QByteArray(2000, 'b');
+    server.setRoute("/", half);
+
+    std::unique_ptr<CKyNANetworkReply> reply(manager.get(request));
+    ReplyRecorder recorder(reply.get());
+    auto* toolkit = qobject_cast<QNetworkReply*>(reply->getHandle());
+    ASSERT_TRUE(toolkit);
+    // Half of the body has arrived in the toolkit reply...
+    QSignalSpy arrived(toolkit, &QNetworkReply::readyRead);
+    ASSERT_TRUE(arrived.wait(5000));
+    EXPECT_EQ(toolkit->bytesAvailable(), 1000);
+
+    // ...but the reply shows none of it until it has failed or finished.
+    EXPECT_TRUE(reply->isRunning());
+    EXPECT_FALSE(reply->header(CKyNANetworkRequest::ContentTypeHeader).isValid());
+    EXPECT_FALSE(reply->hasRawHeader("Content-Type"));
+    EXPECT_TRUE(reply->rawHeaderList().isEmpty());
+    EXPECT_TRUE(reply->rawHeaderPairs().isEmpty());
+    EXPECT_EQ(reply->bytesAvailable(), 0);
+    EXPECT_EQ(reply->pos(), 0);
+    EXPECT_FALSE(reply->seek(0));
+    EXPECT_TRUE(reply->readAll().isEmpty());
+
+    reply->abort();
+    ASSERT_TRUE(waitUntil([&] { return recorder.isFinished(); }));
+    EXPECT_EQ(recorder.log, (QStringList{QStringLiteral("error:5"), QStringLiteral("finished")}));
+    EXPECT_TRUE(reply->isFinished());
+    EXPECT_EQ(errorCode(*reply), CKyNANetworkReply::OperationCanceledError);
+    EXPECT_EQ(reply->rawHeader("Content-Type"), QByteArray("text/plain"));
+}
+
+TEST_F(NetworkReply, RepeatedHeaderNamesAreReportedAsTheToolkitMergesThem)
+{
+    const auto reply = fetch(
+        {{"X-Rep", "1"}, {"X-Rep", "2"}, {"Set-Cookie", "a=1"}, {"Set-Cookie", "b=2"}, {"X-After", "z"}});
+    auto* toolkit = qobject_cast<QNetworkReply*>(reply->getHandle());
+    ASSERT_TRUE(toolkit);
+
+    EXPECT_EQ(reply->rawHeaderPairs(), toolkit->rawHeaderPairs());
+    EXPECT_EQ(reply->rawHeader("X-Rep"), QByteArray("1, 2"));
+    EXPECT_EQ(reply->rawHeader("Set-Cookie"), QByteArray("a=1\nb=2"));
+    EXPECT_EQ(reply->header(CKyNANetworkRequest::SetCookieHeader).toByteArray(), QByteArray("a=1\nb=2"));
+    EXPECT_EQ(reply->rawHeader("X-After"), QByteArray("z"));
+    // The toolkit hands each name once, so the names follow the pairs.
+    QList<QByteArray> names;
+    for (const auto& pair : toolkit->rawHeaderPairs())
+        names << pair.first;
+    EXPECT_EQ(reply->rawHeaderList(), names);
+}
+
+TEST_F(NetworkReply, HeaderNamesMatchCaseSensitively)
+{
+    const auto reply = fetch({{"content-type", "text/plain"}, {"X-Mixed-Case", "m"}});
+    EXPECT_TRUE(reply->hasRawHeader("content-type"));
+    EXPECT_FALSE(reply->hasRawHeader("Content-Type"));
+    EXPECT_FALSE(reply->header(CKyNANetworkRequest::ContentTypeHeader).isValid());
+    EXPECT_EQ(reply->rawHeader("content-type"), QByteArray("text/plain"));
+    EXPECT_EQ(reply->rawHeader("X-Mixed-Case"), QByteArray("m"));
+    EXPECT_TRUE(reply->rawHeader("x-mixed-case").isNull());
+    EXPECT_FALSE(reply->header(CKyNANetworkRequest::KnownHeaders(9)).isValid());
+}
+
+TEST_F(NetworkReply, BlockedSignalsStayQuietButTheFinishIsRecorded)
+{
+    Route route;
+    route.headers = {{"X-Kept", "yes"}};
+    route.body = "quiet";
+    server.setRoute("/", route);
+
+    std::unique_ptr<CKyNANetworkReply> reply(manager.get(request));
+    ReplyRecorder recorder(reply.get());
+    reply->blockSignals(true);
+    QSignalSpy toolkitFinished(qobject_cast<QNetworkReply*>(reply->getHandle()), &QNetworkReply::finished);
+    ASSERT_TRUE(toolkitFinished.wait(5000));
+
+    EXPECT_TRUE(recorder.log.isEmpty());
+    EXPECT_EQ(recorder.downloads, 0);
+    EXPECT_TRUE(reply->isFinished());
+    EXPECT_EQ(reply->rawHeader("X-Kept"), QByteArray("yes"));
+    EXPECT_EQ(reply->readAll(), QByteArray("quiet"));
+}
+
+// The pairing rule on a pair list of our own, handed to the finish handler.
+TEST(NetworkReplyHeaders, DistinctNameIndexIsAppliedToTheFullPairList)
+{
+    CKyNANetworkReply reply(nullptr);
+    int finishes = 0;
+    reply.finished().connect([&finishes] { ++finishes; });
+
+    implOf(reply)->OnFinished(200, Pairs{{"A", "1"}, {"A", "2"}, {"B", "3"}}, nullptr);
+    EXPECT_EQ(finishes, 1);
+    EXPECT_TRUE(reply.isFinished());
+    EXPECT_EQ(reply.rawHeaderList(), (QList<QByteArray>{"A", "B"}));
+    EXPECT_EQ(reply.rawHeader("A"), QByteArray("1"));
+    // B is the second distinct name, so it is answered with the second pair.
+    EXPECT_EQ(reply.rawHeader("B"), QByteArray("2"));
+    EXPECT_EQ(reply.rawHeaderPairs(), (Pairs{{"A", "1"}, {"A", "2"}, {"B", "3"}}));
+    EXPECT_TRUE(reply.rawHeader("C").isNull());
+}
+
+TEST(NetworkReplyHeaders, ASecondFinishReplacesThePairsAndOnlyAddsNames)
+{
+    CKyNANetworkReply reply(nullptr);
+    implOf(reply)->OnFinished(200, Pairs{{"A", "1"}, {"Content-Type", "x/y"}}, nullptr);
+    EXPECT_EQ(reply.header(CKyNANetworkRequest::ContentTypeHeader).toByteArray(), QByteArray("x/y"));
+
+    implOf(reply)->OnFinished(200, Pairs{{"C", "9"}}, nullptr);
+    EXPECT_EQ(reply.rawHeaderList(), (QList<QByteArray>{"A", "Content-Type", "C"}));
+    EXPECT_EQ(reply.rawHeaderPairs(), (Pairs{{"C", "9"}}));
+    EXPECT_EQ(reply.rawHeader("A"), QByteArray("9"));
+    // Indices past the end of the pairs answer nothing.
+    EXPECT_TRUE(reply.rawHeader("C").isNull());
+    EXPECT_TRUE(reply.hasRawHeader("C"));
+    EXPECT_FALSE(reply.header(CKyNANetworkRequest::ContentTypeHeader).isValid());
+}
+
+TEST(NetworkReplyHeaders, EmptyNameIsFoundOnlyByNamesWithoutAHeader)
+{
+    CKyNANetworkReply reply(nullptr);
+    implOf(reply)->OnFinished(200, Pairs{{"", "empty"}}, nullptr);
+    // A code without a name looks up the null name, which equals the empty one.
+    EXPECT_EQ(reply.header(CKyNANetworkRequest::KnownHeaders(42)).toByteArray(), QByteArray("empty"));
+    EXPECT_FALSE(reply.header(CKyNANetworkRequest::ServerHeader).isValid());
+}
+
+TEST(NetworkReplyHandle, AnythingButAToolkitReplyGivesNeutralAnswers)
+{
+    auto* notAReply = new QObject;
+    QPointer<QObject> watch(notAReply);
+    {
+        CKyNANetworkReply reply(notAReply);
+        int emissions = 0;
+        reply.finished().connect([&emissions] { ++emissions; });
+        reply.error().connect([&emissions](CKyNANetworkReply::NetworkError) { ++emissions; });
+
+        EXPECT_EQ(reply.getHandle(), notAReply);
+        EXPECT_EQ(errorCode(reply), CKyNANetworkReply::NoError);
+        EXPECT_TRUE(reply.errorString().isEmpty());
+        EXPECT_FALSE(reply.attribute(CKyNANetworkRequest::HttpStatusCodeAttribute).isValid());
+        EXPECT_EQ(reply.request(), nullptr);
+        EXPECT_TRUE(reply.isRunning());
+        reply.abort();
+        EXPECT_EQ(emissions, 0);
+    }
+    // Only toolkit replies are released with the reply.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_FALSE(watch.isNull());
+    delete notAReply;
+}
