@@ -119,16 +119,11 @@ TEST(CKyUIPushButtonTest, AlignmentIsReplacedNotAccumulated)
     FrontendOf(button)->setStyleSheet("QPushButton { text-align \t: \tright ; color: red; }");
     button.setTextAlignment(CKyUIPushButton::Left);
     EXPECT_EQ(FrontendOf(button)->styleSheet(), "QPushButton {  color: red; text-align:left;}");
-}
 
-TEST(CKyUIPushButtonTest, ASheetWithoutBraceGetsTheDeclarationAppended)
-{
-    CKyUIPushButton button;
+    // Without a brace the declaration is appended.
     FrontendOf(button)->setStyleSheet("color: red;");
     button.setTextAlignment(CKyUIPushButton::Center);
     EXPECT_EQ(FrontendOf(button)->styleSheet(), "color: red;text-align:center;");
-    button.setBoldText(true);
-    EXPECT_EQ(FrontendOf(button)->styleSheet(), "color: red;text-align:center;font-weight: bold;");
 }
 
 TEST(CKyUIPushButtonTest, BoldIsReplacedButNumericWeightsStay)
@@ -160,56 +155,17 @@ TEST(CKyUIPushButtonTest, RewritesGoBeforeTheLastBraceOfTheWholeSheet)
               "QPushButton { color: red; } QPushButton:hover { text-align:right;}");
 }
 
-TEST(CKyUIPushButtonTest, TextAndIconAreRecordedAndShown)
-{
-    CKyUIPushButton button;
-    button.setText("OK");
-    EXPECT_EQ(FrontendOf(button)->text(), "OK");
-    // The getter answers from the record, not from the widget.
-    FrontendOf(button)->setText("changed elsewhere");
-    EXPECT_EQ(button.text(), "OK");
-
-    QPixmap pixmap(8, 8);
-    pixmap.fill(Qt::blue);
-    const QIcon icon(pixmap);
-    button.setIcon(icon);
-    EXPECT_FALSE(FrontendOf(button)->icon().isNull());
-    EXPECT_EQ(static_cast<CKyUIPushButtonImpl*>(button.impl())->Icon().cacheKey(), icon.cacheKey());
-
-    button.setToolTip("Apply the changes");
-    EXPECT_EQ(FrontendOf(button)->toolTip(), "Apply the changes");
-    button.setCheckable(true);
-    EXPECT_TRUE(FrontendOf(button)->isCheckable());
-}
-
-TEST(CKyUIPushButtonTest, ResourceIconChangesNothing)
+TEST(CKyUIPushButtonTest, TextIsAnsweredFromTheRecordAndResourceIconsChangeNothing)
 {
     CKyUIPushButton button;
     button.setText("Open");
+    FrontendOf(button)->setText("changed elsewhere");
+    EXPECT_EQ(button.text(), "Open");
+
     button.setResourceIcon(":/commonui/resources/icons/chevron_down.png");
     EXPECT_EQ(button.text(), "Open");
-    EXPECT_EQ(FrontendOf(button)->text(), "Open");
+    EXPECT_EQ(FrontendOf(button)->text(), "changed elsewhere");
     EXPECT_TRUE(FrontendOf(button)->icon().isNull());
     EXPECT_TRUE(static_cast<CKyUIPushButtonImpl*>(button.impl())->Icon().isNull());
     EXPECT_EQ(FrontendOf(button)->styleSheet(), "QPushButton { }");
-}
-
-TEST(CKyUIPushButtonTest, WithAnotherHandleOnlyTheRecordChanges)
-{
-    CKyUIPushButton button;
-    CKyUIPushButtonFrontend* own = FrontendOf(button);
-    QPushButton plain;
-    plain.setStyleSheet("QPushButton { }");
-    button.setHandle(&plain);
-
-    button.setText("stored");
-    button.setTextAlignment(CKyUIPushButton::Left);
-    button.setBoldText(true);
-    button.setCheckable(true);
-    EXPECT_EQ(button.text(), "stored");
-    EXPECT_TRUE(plain.text().isEmpty());
-    EXPECT_EQ(plain.styleSheet(), "QPushButton { }");
-    EXPECT_FALSE(plain.isCheckable());
-
-    button.setHandle(own);
 }

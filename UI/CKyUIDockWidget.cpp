@@ -1,0 +1,50 @@
+#include "UI/CKyUIDockWidget.h"
+
+#include "UI/Impl/CKyUIDockWidgetImpl.h"
+
+CKyUIDockWidget::CKyUIDockWidget(int area)
+{
+    auto* impl = new CKyUIDockWidgetImpl(this);
+    setImpl(impl);
+    impl->CreateFrontendControl();
+    impl->SetArea(area);
+}
+
+CKyUIDockWidget::~CKyUIDockWidget() = default;
+
+void CKyUIDockWidget::setWidget(CKyUIBaseView* view)
+{
+    implAs<CKyUIDockWidgetImpl>()->SetWidget(view);
+}
+
+CKyUIBaseView* CKyUIDockWidget::widget()
+{
+    return implAs<CKyUIDockWidgetImpl>()->Widget();
+}
+
+const CKyUIBaseView* CKyUIDockWidget::widget() const
+{
+    return implAs<CKyUIDockWidgetImpl>()->Widget();
+}
+
+void CKyUIDockWidget::setTitle(const QString& title)
+{
+    implAs<CKyUIDockWidgetImpl>()->SetTitle(title);
+}
+
+void CKyUIDockWidget::raise()
+{
+    implAs<CKyUIDockWidgetImpl>()->RaiseImpl();
+}
+
+void CKyUIDockWidget::showEvent(CKyUIShowEvent* event)
+{
+    if (CKyUIBaseView* view = widget())
+        view->showEvent(event);
+}
+
+void CKyUIDockWidget::hideEvent(CKyUIHideEvent* event)
+{
+    if (CKyUIBaseView* view = widget())
+        view->hideEvent(event);
+}

@@ -1,0 +1,34 @@
+#include "UI/CKyUIImageView.h"
+
+#include "UI/CKyUIEvent.h"
+#include "UI/Impl/CKyUIImageViewImpl.h"
+
+CKyUIImageView::CKyUIImageView()
+{
+    auto* impl = new CKyUIImageViewImpl(this);
+    setImpl(impl);
+    impl->CreateFrontendControl();
+}
+
+CKyUIImageView::~CKyUIImageView() = default;
+
+void CKyUIImageView::setPixmap(const QPixmap& pixmap)
+{
+    implAs<CKyUIImageViewImpl>()->SetPixmap(pixmap);
+}
+
+QPixmap* CKyUIImageView::pixmap() const
+{
+    return implAs<CKyUIImageViewImpl>()->Pixmap();
+}
+
+QPainter* CKyUIImageView::GetPainter()
+{
+    return implAs<CKyUIImageViewImpl>()->GetPainter();
+}
+
+void CKyUIImageView::paintEvent(CKyUIPaintEvent* event)
+{
+    if (event)
+        implAs<CKyUIImageViewImpl>()->DrawPixmap(event->rect());
+}

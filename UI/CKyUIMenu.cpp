@@ -1,0 +1,38 @@
+#include "UI/CKyUIMenu.h"
+
+#include "UI/Impl/CKyUIMenuImpl.h"
+#include "UI/Impl/KyBaseViewImpl.h"
+
+CKyUIMenu::CKyUIMenu()
+{
+    auto* impl = new CKyUIMenuImpl(this);
+    setImpl(impl);
+    impl->CreateFrontendControl();
+}
+
+CKyUIMenu::~CKyUIMenu()
+{
+    // Released as views release their widgets.
+    if (QObject* handle = getHandle())
+        KyBaseViewImpl::ReleaseFrontendControl(impl()->GetFrontendClassName(), handle);
+}
+
+void CKyUIMenu::addAction(CKyUIAction* action)
+{
+    implAs<CKyUIMenuImpl>()->AddAction(action);
+}
+
+void CKyUIMenu::addSeparator()
+{
+    implAs<CKyUIMenuImpl>()->AddSeparatorImpl();
+}
+
+void CKyUIMenu::clear()
+{
+    implAs<CKyUIMenuImpl>()->Clear();
+}
+
+void CKyUIMenu::popup(CKyUIBaseView* view)
+{
+    implAs<CKyUIMenuImpl>()->PopupImpl(view);
+}

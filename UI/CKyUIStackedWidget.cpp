@@ -1,0 +1,65 @@
+#include "UI/CKyUIStackedWidget.h"
+
+#include "UI/Impl/CKyUIStackedWidgetImpl.h"
+
+CKyUIStackedWidget::CKyUIStackedWidget()
+{
+    auto* impl = new CKyUIStackedWidgetImpl(this);
+    setImpl(impl);
+    impl->CreateFrontendControl();
+}
+
+CKyUIStackedWidget::~CKyUIStackedWidget() = default;
+
+void CKyUIStackedWidget::addTab(CKyUIBaseView* view, const QString& title)
+{
+    if (!view)
+        return;
+    view->setParent(this);
+    implAs<CKyUIStackedWidgetImpl>()->AddTab(view, title);
+}
+
+int CKyUIStackedWidget::indexOf(CKyUIBaseView* view) const
+{
+    return implAs<CKyUIStackedWidgetImpl>()->IndexOf(view);
+}
+
+void CKyUIStackedWidget::setTabText(int index, const QString& text)
+{
+    implAs<CKyUIStackedWidgetImpl>()->SetTabText(index, text);
+}
+
+int CKyUIStackedWidget::currentIndex() const
+{
+    return implAs<CKyUIStackedWidgetImpl>()->CurrentIndex();
+}
+
+void CKyUIStackedWidget::setCurrentIndex(int index)
+{
+    implAs<CKyUIStackedWidgetImpl>()->SetCurrentIndex(index);
+}
+
+void CKyUIStackedWidget::setCurrentWidget(CKyUIBaseView* view)
+{
+    setCurrentIndex(indexOf(view));
+}
+
+CKyUISignal<void(int)>& CKyUIStackedWidget::currentChanged()
+{
+    return implAs<CKyUIStackedWidgetImpl>()->currentChanged;
+}
+
+CKyUISignal<void(int)>& CKyUIStackedWidget::tabCloseRequested()
+{
+    return implAs<CKyUIStackedWidgetImpl>()->tabCloseRequested;
+}
+
+CKyUISignal<void(int)>& CKyUIStackedWidget::tabBarClicked()
+{
+    return implAs<CKyUIStackedWidgetImpl>()->tabBarClicked;
+}
+
+CKyUISignal<void(int)>& CKyUIStackedWidget::tabBarDoubleClicked()
+{
+    return implAs<CKyUIStackedWidgetImpl>()->tabBarDoubleClicked;
+}

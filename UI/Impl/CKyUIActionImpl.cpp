@@ -1,0 +1,64 @@
+#include "UI/Impl/CKyUIActionImpl.h"
+
+CKyUIActionImpl::CKyUIActionImpl(CKyUIObject* owner)
+    : CKyUIObjectImpl(owner)
+    , triggered(owner)
+{
+}
+
+QString CKyUIActionImpl::GetFrontendClassName()
+{
+    return QStringLiteral("QAction");
+}
+
+void CKyUIActionImpl::SetText(const QString& text)
+{
+    if (m_text == text)
+        return;
+    m_text = text;
+    SetTextImpl(text);
+}
+
+void CKyUIActionImpl::SetIcon(const QIcon& icon)
+{
+    m_icon = icon;
+    SetIconImpl(icon);
+}
+
+void CKyUIActionImpl::SetResourceIcon(const QString&)
+{
+}
+
+void CKyUIActionImpl::SetEnabled(bool enabled)
+{
+    m_enabled = enabled;
+    SetEnabledImpl(enabled);
+}
+
+void CKyUIActionImpl::SetCheckable(bool checkable)
+{
+    m_checkable = checkable;
+    SetCheckableImpl(checkable);
+}
+
+void CKyUIActionImpl::SetChecked(bool checked)
+{
+    m_checked = checked;
+    SetCheckedImpl(checked);
+}
+
+void CKyUIActionImpl::SetVisible(bool visible)
+{
+    m_visible = visible;
+    SetVisibleImpl(visible);
+}
+
+void CKyUIActionImpl::SetEnabledImpl(bool)
+{
+    // The toolkit action is deliberately left enabled.
+}
+
+void CKyUIActionImpl::onTriggered(bool checked)
+{
+    triggered.Emit(checked);
+}

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "UI/Impl/CKyUIBaseViewImpl.h"
+
+// A scroll area holding one child view's widget.
+class CKyUIScrollableAreaImpl : public CKyUIBaseViewImpl
+{
+public:
+    explicit CKyUIScrollableAreaImpl(CKyUIObject* owner);
+    ~CKyUIScrollableAreaImpl() override;
+
+    QString GetFrontendClassName() override;
+    void CreateFrontendControl() override;
+    void AddViewImpl(CKyUIBaseView* view, float stretch) override;
+    void RemoveViewImpl(CKyUIBaseView* view) override;
+
+    void SetHorizontalScrollingEnabled(bool enabled);
+    bool HorizontalScrollingEnabled() const { return m_horizontalScrollingEnabled; }
+    void SetVerticalScrollingEnabled(bool enabled);
+    bool VerticalScrollingEnabled() const { return m_verticalScrollingEnabled; }
+
+    void SetHorizontalScrollingEnabledImpl(bool enabled);
+    void SetVerticalScrollingEnabledImpl(bool enabled);
+    void ScrollToImpl(CKyUIBaseView* view);
+
+private:
+    bool m_horizontalScrollingEnabled = false;
+    bool m_verticalScrollingEnabled = false;
+};

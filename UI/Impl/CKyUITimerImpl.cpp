@@ -1,0 +1,39 @@
+#include "UI/Impl/CKyUITimerImpl.h"
+
+#include <utility>
+
+CKyUITimerImpl::CKyUITimerImpl(CKyUIObject* owner)
+    : CKyUIObjectImpl(owner)
+    , m_timeout(owner)
+{
+    CreateTimerImpl();
+}
+
+CKyUITimerImpl::~CKyUITimerImpl()
+{
+    DestroyTimerImpl();
+}
+
+void CKyUITimerImpl::start(int msec)
+{
+    m_active = true;
+    StartImpl(msec);
+}
+
+void CKyUITimerImpl::stop()
+{
+    m_active = false;
+    StopImpl();
+}
+
+void CKyUITimerImpl::singleShot(int msec, std::function<void()> callback)
+{
+    SingleShotImpl(msec, std::move(callback));
+}
+
+void CKyUITimerImpl::OnTimeout()
+{
+    // Cleared although the timer goes on firing.
+    m_active = false;
+    m_timeout.Emit();
+}

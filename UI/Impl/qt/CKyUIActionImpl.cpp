@@ -1,0 +1,50 @@
+#include "UI/Impl/CKyUIActionImpl.h"
+
+#include "UI/CKyUIObject.h"
+
+#include <QtWidgets/QAction>
+
+CKyUIActionImpl::~CKyUIActionImpl()
+{
+    // The toolkit action is not deleted with its public object and may still
+    // be triggered from a menu.
+    QObject::disconnect(m_triggeredConnection);
+}
+
+void CKyUIActionImpl::CreateFrontendControl()
+{
+    auto* action = new QAction(nullptr);
+    owner()->setHandle(action);
+    m_triggeredConnection =
+        QObject::connect(action, &QAction::triggered, [this](bool checked) { onTriggered(checked); });
+}
+
+void CKyUIActionImpl::SetTextImpl(const QString& text)
+{
+    if (auto* action = qobject_cast<QAction*>(owner()->getHandle()))
+        action->setText(text);
+}
+
+void CKyUIActionImpl::SetIconImpl(const QIcon& icon)
+{
+    if (auto* action = qobject_cast<QAction*>(owner()->getHandle()))
+        action->setIcon(icon);
+}
+
+void CKyUIActionImpl::SetCheckableImpl(bool checkable)
+{
+    if (auto* action = qobject_cast<QAction*>(owner()->getHandle()))
+        action->setCheckable(checkable);
+}
+
+void CKyUIActionImpl::SetCheckedImpl(bool checked)
+{
+    if (auto* action = qobject_cast<QAction*>(owner()->getHandle()))
+        action->setChecked(checked);
+}
+
+void CKyUIActionImpl::SetVisibleImpl(bool visible)
+{
+    if (auto* action = qobject_cast<QAction*>(owner()->getHandle()))
+        action->setVisible(visible);
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "UI/CKyUIBaseView.h"
+
+class QPainter;
+class QPixmap;
+
+// A view that renders into an off-screen image of its own size: on every size
+// change and update() it hands a paint event to paintEvent(), during which
+// GetPainter() draws on that image. The view has no toolkit widget, so the
+// image is not shown anywhere by the library.
+class COMMONUI_EXPORT CKyUIImageView : public CKyUIBaseView
+{
+public:
+    CKyUIImageView();
+    ~CKyUIImageView() override;
+
+    // Stored only; nothing is redrawn until the next update.
+    void setPixmap(const QPixmap& pixmap);
+    // Never null.
+    QPixmap* pixmap() const;
+
+    // The painter of the update in progress; null outside one.
+    QPainter* GetPainter();
+
+    // Draws the pixmap stretched over the whole image, ignoring its aspect ratio.
+    void paintEvent(CKyUIPaintEvent* event) override;
+};

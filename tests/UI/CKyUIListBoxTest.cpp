@@ -1,0 +1,114 @@
+#include "UI/CKyUIListBox.h"
+#include "UI/Impl/CKyUIListBoxImpl.h"
+
+#include <gtest/gtest.h>
+
+#include <QtWidgets/QListWidget>
+
+#include <vector>
+
+namespace
+{
+class CKyUIListBoxTest : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        for (const char* text : {"alpha", "beta", "Alpha", "beta", "gamma"})
+            list.addItem(text);
+        list.valueChanged().connect([this](int value) { emitted.push_back(value); });
+    }
+
+    CKyUIListBoxImpl* Impl() { return static_cast<CKyUIListBoxImpl*>(list.impl()); }
+
+    CKyUIListBox list;
+    std::vector<int> emitted;
+};
+} // namespace
+
+TEST_F(CKyUIListBoxTest, ModelIsKeptAndTheWidgetStaysEmpty)
+{
+    auto* widget = qobject_cast<QListWidget*>(list.getHandle());
+    ASSERT_NE(widget, nullptr);
+    EXPECT_EQ(widget->styleSheet(), "QListWidget { }");
+    EXPECT_EQ(widget->count(), 0);
+    EXPECT_EQ(list.impl()->GetFrontendClassName(), "QListWidget");
+
+    EXPECT_EQ(list.count(), 5);
+    EXPECT_EQ(list.item(2), "Alpha");
+    EXPECT_EQ(list.row("beta"), 1);
+    EXPECT_EQ(list.row("Alpha"), 2);
+    EXPECT_EQ(list.row("ALPHA"), -1);
+    EXPECT_EQ(list.row(""), -1);
+    EXPECT_EQ(Impl()->ItemDefs().size(), 5);
+    EXPECT_FALSE(list.itemData(0).isValid());
+    EXPECT_FALSE(list.isItemSelected(0));
+}
+
+TEST_F(CKyUIListBoxTest, ValuesAndFlagsOnlyInRange)
+{
+    list.setItemData(4, 42);
+    list.setItemData(5, 7);
+    list.setItemData(-1, 7);
+    EXPECT_EQ(list.itemData(4), QVariant(42));
+    EXPECT_FALSE(list.itemData(5).isValid());
+    EXPECT_FALSE(list.itemData(-1).isValid());
+
+    list.setItemSelected(5, true);
+    list.setItemSelected(-1, true);
+    list.setItemSelected(1, true);
+    EXPECT_FALSE(list.isItemSelected(5));
+    EXPECT_EQ(QList<bool>({list.isItemSelected(0), list.isItemSelected(1), list.isItemSelected(4)}),
+              QList<bool>({false, true, false}));
+}
+
+TEST_F(CKyUIListBoxTest, SelectionQueriesAndEditsThatDoNothing)
+{
+    list.setItemSelected(3, true);
+    EXPECT_EQ(list.currentRow(), 0);
+    EXPECT_TRUE(list.selectedItems().isEmpty());
+
+    list.clearSelection();
+    EXPECT_TRUE(list.isItemSelected(3));
+    list.setItemText(0, "changed");
+    EXPECT_EQ(list.item(0), "alpha");
+
+    // The reference is the stored text itself.
+    list.item(0) = "renamed";
+    EXPECT_EQ(list.row("renamed"), 0);
+    EXPECT_TRUE(emitted.empty());
+}
+
+TEST_F(CKyUIListBoxTest, ClearEmptiesBothListsAndKeepsCapacity)
+{
+    list.setItemData(0, "x");
+    const int capacity = Impl()->ItemDefs().capacity();
+    list.clear();
+    EXPECT_EQ(list.count(), 0);
+    EXPECT_TRUE(Impl()->ItemDefs().isEmpty());
+    EXPECT_EQ(Impl()->ItemDefs().capacity(), capacity);
+    EXPECT_FALSE(list.itemData(0).isValid());
+    EXPECT_EQ(list.currentRow(), 0);
+
+    list.addItem("fresh");
+    EXPECT_FALSE(list.itemData(0).isValid());
+    EXPECT_FALSE(list.isItemSelected(0));
+    EXPECT_TRUE(emitted.empty());
+}
+
+TEST_F(CKyUIListBoxTest, ItemSelectedReactionTellsWhetherAnyIsSelected)
+{
+    Impl()->OnItemSelected(3, true);
+    Impl()->OnItemSelected(1, true);
+    Impl()->OnItemSelected(3, false);
+    Impl()->OnItemSelected(1, false);
+    // Out of range: nothing changes, the state is still reported.
+    Impl()->OnItemSelected(9, true);
+    EXPECT_EQ(emitted, std::vector<int>({1, 1, 1, 0, 0}));
+    EXPECT_FALSE(list.isItemSelected(1));
+
+    list.blockSignals(true);
+    Impl()->OnItemSelected(0, true);
+    EXPECT_EQ(emitted.size(), 5u);
+    EXPECT_TRUE(list.isItemSelected(0));
+}

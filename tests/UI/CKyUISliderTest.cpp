@@ -1,0 +1,145 @@
+#include "UI/CKyUISlider.h"
+#include "UI/CKyUIVerticalLayout.h"
+#include "UI/Impl/CKyUISliderImpl.h"
+
+#include <gtest/gtest.h>
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QPointer>
+#include <QtTest/QTest>
+#include <QtWidgets/QSlider>
+
+#include <memory>
+#include <vector>
+
+namespace
+{
+QSlider* SliderOf(const CKyUISlider& slider)
+{
+    return qobject_cast<QSlider*>(slider.getHandle());
+}
+
+std::vector<int>* Record(CKyUISlider& slider)
+{
+    auto* values = new std::vector<int>;
+    slider.valueChanged().connect([values](int value) { values->push_back(value); });
+    return values;
+}
+} // namespace
+
+TEST(CKyUISliderTest, CreationKeepsTheToolkitRangeAndAFixedHeight)
+{
+    CKyUISlider slider;
+    QSlider* widget = SliderOf(slider);
+    ASSERT_NE(widget, nullptr);
+    EXPECT_EQ(widget->styleSheet(), "QSlider { }");
+    EXPECT_EQ(widget->orientation(), Qt::Horizontal);
+    EXPECT_EQ(widget->minimumHeight(), 25);
+    EXPECT_EQ(widget->maximumHeight(), 25);
+    EXPECT_EQ(slider.impl()->GetFrontendClassName(), "QSlider");
+
+    // The stored maximum of 100 is not applied.
+    auto* impl = static_cast<CKyUISliderImpl*>(slider.impl());
+    EXPECT_EQ(impl->Minimum(), 0);
+    EXPECT_EQ(impl->Maximum(), 100);
+    EXPECT_EQ(widget->minimum(), 0);
+    EXPECT_EQ(widget->maximum(), 99);
+    EXPECT_EQ(slider.value(), 0);
+}
+
+TEST(CKyUISliderTest, ArrowKeysMoveTheValueAndEmitEachStep)
+{
+    CKyUISlider slider;
+    std::unique_ptr<std::vector<int>> values(Record(slider));
+    QSlider* widget = SliderOf(slider);
+    widget->show();
+
+    QTest::keyClick(widget, Qt::Key_Right);
+    QTest::keyClick(widget, Qt::Key_Right);
+    EXPECT_EQ(*values, std::vector<int>({1, 2}));
+    EXPECT_EQ(slider.value(), 2);
+
+    QTest::keyClick(widget, Qt::Key_End);
+    QTest::keyClick(widget, Qt::Key_Left);
+    EXPECT_EQ(*values, std::vector<int>({1, 2, 99, 98}));
+    EXPECT_EQ(slider.value(), 98);
+
+    // Blocked: the value still follows the user, nothing is emitted.
+    slider.blockSignals(true);
+    QTest::keyClick(widget, Qt::Key_Home);
+    EXPECT_EQ(slider.value(), 0);
+    EXPECT_EQ(values->size(), 4u);
+    slider.blockSignals(false);
+    QTest::keyClick(widget, Qt::Key_Right);
+    EXPECT_EQ(values->back(), 1);
+}
+
+TEST(CKyUISliderTest, SetValueIsStoredAsGivenAndTheClampedValueReportedBack)
+{
+    CKyUISlider slider;
+    std::unique_ptr<std::vector<int>> values(Record(slider));
+
+    slider.setValue(150);
+    EXPECT_EQ(SliderOf(slider)->value(), 99);
+    EXPECT_EQ(*values, std::vector<int>({99}));
+    EXPECT_EQ(slider.value(), 99);
+
+    // Already at the maximum: nothing moves, so the larger number stays.
+    slider.setValue(500);
+    EXPECT_EQ(values->size(), 1u);
+    EXPECT_EQ(slider.value(), 500);
+
+    slider.setValue(99);
+    EXPECT_EQ(values->size(), 1u);
+    EXPECT_EQ(slider.value(), 99);
+
+    slider.setValue(-3);
+    EXPECT_EQ(*values, std::vector<int>({99, 0}));
+    EXPECT_EQ(slider.value(), 0);
+}
+
+TEST(CKyUISliderTest, RangeIsSetInTwoSteps)
+{
+    CKyUISlider slider;
+    std::unique_ptr<std::vector<int>> values(Record(slider));
+    slider.setRange(200, 300);
+    // Raising the minimum lifts maximum and value with it first.
+    EXPECT_EQ(*values, std::vector<int>({200}));
+    EXPECT_EQ(SliderOf(slider)->minimum(), 200);
+    EXPECT_EQ(SliderOf(slider)->maximum(), 300);
+    EXPECT_EQ(slider.value(), 200);
+
+    // An inverted range ends where the maximum step puts it, not where a
+    // single toolkit call would.
+    values->clear();
+    slider.setRange(50, 20);
+    EXPECT_EQ(SliderOf(slider)->minimum(), 20);
+    EXPECT_EQ(SliderOf(slider)->maximum(), 20);
+    EXPECT_EQ(*values, std::vector<int>({20}));
+    auto* impl = static_cast<CKyUISliderImpl*>(slider.impl());
+    EXPECT_EQ(impl->Minimum(), 50);
+    EXPECT_EQ(impl->Maximum(), 20);
+}
+
+TEST(CKyUISliderTest, StaysTwentyFivePixelsHighInATallLayout)
+{
+    CKyUIVerticalLayout column;
+    auto* slider = new CKyUISlider;
+    column.addView(slider, 1.0f);
+    auto* box = static_cast<QWidget*>(column.getHandle());
+    box->resize(300, 400);
+    box->show();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(SliderOf(*slider)->height(), 25);
+}
+
+TEST(CKyUISliderTest, WidgetOutlivingTheSliderNoLongerReports)
+{
+    auto* slider = new CKyUISlider;
+    QPointer<QSlider> widget(SliderOf(*slider));
+    delete slider;
+    ASSERT_FALSE(widget.isNull());
+    widget->setValue(40);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(widget.isNull());
+}

@@ -1,0 +1,155 @@
+#include "UI/CKyUIStackedWidget.h"
+#include "UI/Impl/CKyUIStackedWidgetImpl.h"
+#include "support/TestViews.h"
+
+#include <gtest/gtest.h>
+
+#include <QtTest/QTest>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QTabBar>
+#include <QtWidgets/QTabWidget>
+
+#include <string>
+#include <vector>
+
+namespace
+{
+// Three labelled pages and a log of every emission of the four signals.
+class CKyUIStackedWidgetTest : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        for (const char* title : {"General", "Display", "Units"}) {
+            auto* label = new QLabel(title);
+            label->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+            pages.push_back(new HandleView(label));
+            stack.addTab(pages.back(), title);
+        }
+        Log(stack.currentChanged(), "current");
+        Log(stack.tabCloseRequested(), "close");
+        Log(stack.tabBarClicked(), "clicked");
+        Log(stack.tabBarDoubleClicked(), "double");
+    }
+
+    void Log(CKyUISignal<void(int)>& signal, const std::string& name)
+    {
+        signal.connect([this, name](int index) { log.push_back(name + " " + std::to_string(index)); });
+    }
+
+    QTabWidget* Tabs() const { return qobject_cast<QTabWidget*>(stack.getHandle()); }
+    CKyUIStackedWidgetImpl* Impl() const { return static_cast<CKyUIStackedWidgetImpl*>(stack.impl()); }
+
+    CKyUIStackedWidget stack;
+    std::vector<HandleView*> pages;
+    std::vector<std::string> log;
+};
+} // namespace
+
+TEST(CKyUIStackedWidgetEmptyTest, CreationAndAStrangerOnAnEmptyWidget)
+{
+    CKyUIStackedWidget stack;
+    auto* tabs = qobject_cast<QTabWidget*>(stack.getHandle());
+    ASSERT_NE(tabs, nullptr);
+    EXPECT_EQ(tabs->styleSheet(), "QTabWidget { }");
+    EXPECT_EQ(stack.impl()->GetFrontendClassName(), "QTabWidget");
+    EXPECT_EQ(stack.currentIndex(), 0);
+    HandleView stranger(new QLabel);
+    EXPECT_EQ(stack.indexOf(&stranger), 0);
+    EXPECT_EQ(stack.indexOf(nullptr), 0);
+    stack.setCurrentIndex(0);
+    stack.addTab(nullptr, "none");
+    EXPECT_EQ(tabs->count(), 0);
+}
+
+TEST_F(CKyUIStackedWidgetTest, PagesBecomeChildrenAndTabsWithoutMovingTheIndex)
+{
+    EXPECT_EQ(Tabs()->count(), 3);
+    EXPECT_EQ(Tabs()->tabText(2), "Units");
+    EXPECT_EQ(Impl()->Titles(), QList<QString>({"General", "Display", "Units"}));
+    EXPECT_EQ(stack.children(), QList<CKyUIObject*>({pages[0], pages[1], pages[2]}));
+    auto* widget = static_cast<QWidget*>(pages[1]->getHandle());
+    EXPECT_EQ(Tabs()->widget(1), widget);
+    EXPECT_EQ(widget->sizePolicy(), QSizePolicy(QSizePolicy::Minimum, QSizePolicy::Minimum));
+
+    EXPECT_EQ(stack.indexOf(pages[2]), 2);
+    HandleView stranger(new QLabel);
+    EXPECT_EQ(stack.indexOf(&stranger), 3);
+    EXPECT_EQ(stack.currentIndex(), 0);
+    EXPECT_EQ(Tabs()->currentIndex(), 0);
+    EXPECT_TRUE(log.empty());
+}
+
+TEST_F(CKyUIStackedWidgetTest, ProgramChangesEmitOncePerNewIndex)
+{
+    stack.setCurrentIndex(0);
+    stack.setCurrentIndex(3);
+    stack.setCurrentIndex(-1);
+    EXPECT_TRUE(log.empty());
+    EXPECT_EQ(Tabs()->currentIndex(), 0);
+
+    stack.setCurrentIndex(1);
+    stack.setCurrentIndex(1);
+    EXPECT_EQ(log, std::vector<std::string>({"current 1"}));
+    EXPECT_EQ(stack.currentIndex(), 1);
+    EXPECT_EQ(Tabs()->currentIndex(), 1);
+
+    stack.setCurrentWidget(pages[2]);
+    HandleView stranger(new QLabel);
+    stack.setCurrentWidget(&stranger);
+    EXPECT_EQ(log, std::vector<std::string>({"current 1", "current 2"}));
+    EXPECT_EQ(stack.currentIndex(), 2);
+
+    stack.blockSignals(true);
+    stack.setCurrentIndex(0);
+    EXPECT_EQ(stack.currentIndex(), 0);
+    EXPECT_EQ(log.size(), 2u);
+}
+
+TEST_F(CKyUIStackedWidgetTest, AUsersClickMovesOnlyTheToolkit)
+{
+    QTabWidget* tabs = Tabs();
+    tabs->resize(400, 300);
+    tabs->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(tabs));
+
+    QTabBar* bar = tabs->tabBar();
+    QTest::mouseClick(bar, Qt::LeftButton, Qt::NoModifier, bar->tabRect(2).center());
+    EXPECT_EQ(tabs->currentIndex(), 2);
+    EXPECT_EQ(stack.currentIndex(), 0);
+    QTest::mouseClick(bar, Qt::LeftButton, Qt::NoModifier, bar->tabRect(1).center());
+    QTest::mouseDClick(bar, Qt::LeftButton, Qt::NoModifier, bar->tabRect(1).center());
+    EXPECT_EQ(tabs->currentIndex(), 1);
+    EXPECT_EQ(stack.currentIndex(), 0);
+    EXPECT_TRUE(log.empty());
+
+    // The toolkit is told even when the stored index does not change.
+    stack.setCurrentIndex(0);
+    EXPECT_EQ(tabs->currentIndex(), 0);
+    EXPECT_TRUE(log.empty());
+}
+
+TEST_F(CKyUIStackedWidgetTest, TabTextOnlyInRange)
+{
+    stack.setTabText(3, "Extra");
+    stack.setTabText(-1, "Extra");
+    EXPECT_EQ(Impl()->Titles(), QList<QString>({"General", "Display", "Units"}));
+    stack.setTabText(1, "View");
+    EXPECT_EQ(Impl()->Titles().at(1), "View");
+    EXPECT_EQ(Tabs()->tabText(1), "View");
+}
+
+TEST_F(CKyUIStackedWidgetTest, UnconnectedReactionsStoreAndEmit)
+{
+    Impl()->OnTabClickedActivated(0);
+    Impl()->OnPageActivated(0);
+    EXPECT_TRUE(log.empty());
+
+    Impl()->OnTabClickedActivated(2);
+    Impl()->OnPageActivated(1);
+    Impl()->OnPageActivated(1);
+    EXPECT_EQ(log, std::vector<std::string>({"clicked 2", "current 2", "current 1"}));
+    EXPECT_EQ(stack.currentIndex(), 1);
+    // Only the library's own record moved.
+    EXPECT_EQ(Tabs()->currentIndex(), 0);
+}

@@ -1,0 +1,99 @@
+#include "UI/CKyUITimer.h"
+#include "UI/Impl/CKyUITimerImpl.h"
+
+#include <gtest/gtest.h>
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QPointer>
+#include <QtCore/QTimer>
+#include <QtTest/QSignalSpy>
+
+#include <vector>
+
+namespace
+{
+QTimer* TimerOf(const CKyUITimer& timer)
+{
+    return qobject_cast<QTimer*>(timer.getHandle());
+}
+} // namespace
+
+TEST(CKyUITimerTest, ToolkitTimerIsMadeAtConstructionAndDeletedWithTheTimer)
+{
+    auto* timer = new CKyUITimer;
+    QPointer<QTimer> toolkit(TimerOf(*timer));
+    ASSERT_FALSE(toolkit.isNull());
+    EXPECT_EQ(toolkit->parent(), nullptr);
+    EXPECT_FALSE(toolkit->isSingleShot());
+    EXPECT_FALSE(timer->isActive());
+    delete timer;
+    // At once, not later.
+    EXPECT_TRUE(toolkit.isNull());
+}
+
+TEST(CKyUITimerTest, KeepsFiringAfterTheFirstTimeoutWhileReportingInactive)
+{
+    CKyUITimer timer;
+    std::vector<bool> activeDuringTimeout;
+    timer.timeout().connect([&]() { activeDuringTimeout.push_back(timer.isActive()); });
+    QSignalSpy firings(TimerOf(timer), &QTimer::timeout);
+
+    timer.start(10);
+    EXPECT_TRUE(timer.isActive());
+    ASSERT_TRUE(firings.wait(5000));
+    EXPECT_FALSE(timer.isActive());
+    ASSERT_TRUE(firings.wait(5000));
+    ASSERT_TRUE(firings.wait(5000));
+    EXPECT_TRUE(TimerOf(timer)->isActive());
+    EXPECT_EQ(activeDuringTimeout.size(), static_cast<size_t>(firings.count()));
+    EXPECT_EQ(activeDuringTimeout, std::vector<bool>(activeDuringTimeout.size(), false));
+
+    timer.stop();
+    EXPECT_FALSE(timer.isActive());
+    EXPECT_FALSE(TimerOf(timer)->isActive());
+
+    // A restart makes it active again until the next timeout.
+    timer.start(10);
+    EXPECT_TRUE(timer.isActive());
+    ASSERT_TRUE(firings.wait(5000));
+    EXPECT_FALSE(timer.isActive());
+    timer.stop();
+}
+
+TEST(CKyUITimerTest, BlockedTimeoutsClearTheFlagButEmitNothing)
+{
+    CKyUITimer timer;
+    int emitted = 0;
+    timer.timeout().connect([&emitted]() { ++emitted; });
+    QSignalSpy firings(TimerOf(timer), &QTimer::timeout);
+    timer.blockSignals(true);
+    timer.start(10);
+    ASSERT_TRUE(firings.wait(5000));
+    EXPECT_FALSE(timer.isActive());
+    EXPECT_EQ(emitted, 0);
+
+    timer.blockSignals(false);
+    ASSERT_TRUE(firings.wait(5000));
+    EXPECT_EQ(emitted, 1);
+    timer.stop();
+}
+
+TEST(CKyUITimerTest, SingleShotRunsOnceOnALaterPassOfTheEventLoop)
+{
+    int runs = 0;
+    CKyUITimer::singleShot(0, [&runs]() { ++runs; });
+    EXPECT_EQ(runs, 0);
+    // An empty call-back is dropped.
+    CKyUITimer::singleShot(0, std::function<void()>());
+
+    // Signals the test once the later call-back has run.
+    QTimer done;
+    done.setSingleShot(true);
+    QSignalSpy finished(&done, &QTimer::timeout);
+    CKyUITimer::singleShot(5, [&runs, &done]() {
+        ++runs;
+        done.start(0);
+    });
+    ASSERT_TRUE(finished.wait(5000));
+    EXPECT_EQ(runs, 2);
+}
