@@ -1,4 +1,5 @@
-// "Buttons and text": push buttons, a menu of actions, labels.
+// "Buttons and text": push buttons, a menu of actions, labels, text edits and
+// a text view.
 
 #include "GalleryPages.h"
 #include "GalleryRows.h"
@@ -8,9 +9,12 @@
 #include "UI/CKyUILabel.h"
 #include "UI/CKyUIMenu.h"
 #include "UI/CKyUIPushButton.h"
+#include "UI/CKyUITextEdit.h"
+#include "UI/CKyUITextView.h"
 #include "UI/CKyUIVerticalLayout.h"
 
 #include <QtGui/QIcon>
+#include <QtGui/QPalette>
 
 using namespace GalleryRows;
 
@@ -94,11 +98,13 @@ void AddLabels(CKyUIVerticalLayout* page)
     AddFiller(texts);
 
     CKyUIHorizontalLayout* wrapped = AddRow(page, "Word wrap");
-    auto* paragraph = NewLabel("A label with word wrap breaks a long explanation into lines "
-                               "at the width its row leaves it.");
+    auto* paragraph = NewLabel("A label with word wrap breaks a long explanation into lines at "
+                               "the width that its row leaves for it, here 400 pixels.");
     paragraph->setWordWrap(true);
-    paragraph->setMinimumWidth(300);
-    wrapped->addView(paragraph, 1.0f);
+    paragraph->setMinimumWidth(400);
+    paragraph->setMaximumWidth(400);
+    wrapped->addView(paragraph);
+    AddFiller(wrapped);
 
     CKyUIHorizontalLayout* icon = AddRow(page, "Label with icon");
     auto* hole = new CKyUILabel;
@@ -109,6 +115,43 @@ void AddLabels(CKyUIVerticalLayout* page)
     AddFiller(icon);
 }
 
+void AddTextFields(CKyUIVerticalLayout* page, const GalleryReport& report)
+{
+    CKyUIHorizontalLayout* edits = AddRow(page, "Text edit");
+    auto* thread = new CKyUITextEdit(CKyUITextEdit::Medium);
+    thread->setText("M6 x 1");
+    thread->setClearButtonEnabled(true);
+    thread->textEdited().connect([report](QString text) { report("Thread \"" + text + "\""); });
+    thread->returnPressed().connect([report]() { report("Return pressed in the thread field"); });
+    auto* diameter = new CKyUITextEdit(CKyUITextEdit::Medium);
+    diameter->setPlaceholderText("Diameter in mm");
+    diameter->textEdited().connect([report](QString text) { report("Diameter \"" + text + "\""); });
+    auto* disabled = new CKyUITextEdit(CKyUITextEdit::Medium);
+    disabled->setText("Disabled");
+    disabled->setEnabled(false);
+    for (CKyUITextEdit* edit : {thread, diameter, disabled})
+        edits->addView(edit, 1.0f);
+
+    CKyUIHorizontalLayout* views = AddRow(page, "Text view");
+    auto* notes = new CKyUITextView;
+    // The theme has no rule for text views; the palette gives this one the
+    // colours of the text edits (Base: background, Text: text colour).
+    QPalette colours;
+    colours.setColor(QPalette::Base, Field);
+    colours.setColor(QPalette::Text, Text);
+    colours.setColor(QPalette::AlternateBase, Qt::black);
+    notes->setPalette(colours);
+    notes->setBorderWidth(1);
+    notes->setMinimumHeight(64);
+    notes->setMaximumHeight(64);
+    notes->setText("Plain text set with setText.");
+    notes->addHtmlText("Appended HTML: <b>bold</b>, <i>italic</i> and "
+                       "<span style=\"color:#7FA7F0\">coloured</span> text.");
+    notes->addText("Appended plain text keeps <tags> & entities literal.");
+    notes->textChanged().connect([report]() { report("The notes changed"); });
+    views->addView(notes, 1.0f);
+}
+
 } // namespace
 
 GalleryPage BuildButtonsAndTextPage(const GalleryReport& report)
@@ -116,6 +159,7 @@ GalleryPage BuildButtonsAndTextPage(const GalleryReport& report)
     CKyUIVerticalLayout* page = NewPage();
     AddPushButtons(page, report);
     AddLabels(page);
+    AddTextFields(page, report);
     AddPageFiller(page);
     return {"Buttons and text", page, {}};
 }

@@ -1,11 +1,13 @@
-// "Containers": layouts and the appearance calls, the scrollable area, the
-// dock widget, the preview view and the stacked widget that holds the pages.
+// "Containers": group boxes, layouts and the appearance calls, the scrollable
+// area, the dock widget, the preview view and the stacked widget that holds
+// the pages.
 
 #include "GalleryPages.h"
 #include "GalleryRows.h"
 
 #include "UI/CKyUIDockWidget.h"
 #include "UI/CKyUIEvent.h"
+#include "UI/CKyUIGroupBox.h"
 #include "UI/CKyUIHorizontalLayout.h"
 #include "UI/CKyUILabel.h"
 #include "UI/CKyUIPreviewView.h"
@@ -55,6 +57,28 @@ void Outline(CKyUIBaseView* view)
     view->setBorderColor(Accent.red(), Accent.green(), Accent.blue());
 }
 
+void AddGroupBoxes(CKyUIVerticalLayout* page)
+{
+    CKyUIHorizontalLayout* row = AddRow(page, "Group box");
+    // The theme gives group box titles no room, so labels name the boxes.
+    auto* column = new CKyUIGroupBox(CKyUIGroupBox::Vertical, true);
+    column->addView(Caption("Vertical"));
+    column->addView(NewLabel("Second line"));
+    row->addView(column, 1.0f);
+
+    auto* across = new CKyUIGroupBox(CKyUIGroupBox::Horizontal, true);
+    across->addView(Caption("Horizontal"));
+    across->addView(NewLabel("Next"));
+    row->addView(across, 1.0f);
+
+    // Collapsing is bookkeeping: the state and its signal, the box stays open.
+    auto* collapsed = new CKyUIGroupBox(CKyUIGroupBox::Vertical, true);
+    collapsed->addView(Caption("Collapsed"));
+    collapsed->addView(NewLabel("Its children stay"));
+    collapsed->setCollapsed(true);
+    row->addView(collapsed, 1.0f);
+}
+
 void AddLayouts(CKyUIVerticalLayout* page)
 {
     CKyUIHorizontalLayout* row = AddRow(page, "Box layouts");
@@ -101,8 +125,8 @@ GalleryPage::ShownFunction AddScrollableArea(CKyUIVerticalLayout* page)
 {
     CKyUIHorizontalLayout* row = AddRow(page, "Scrollable area");
     auto* area = new CKyUIScrollableArea;
-    area->setMinimumHeight(96);
-    area->setMaximumHeight(96);
+    area->setMinimumHeight(77);
+    area->setMaximumHeight(77);
     auto* holes = new CKyUIVerticalLayout;
     holes->setSpacing(0);
     CKyUILabel* target = nullptr;
@@ -130,10 +154,7 @@ void AddDockWidget(CKyUIVerticalLayout* page)
     Outline(layers);
     layers->addView(NewLabel("Layers"));
     row->addView(layers);
-    auto* note = NewLabel("The panel on the left is held by a dock widget titled \"Layers\"; "
-                          "a host places it in its dock area.");
-    note->setWordWrap(true);
-    row->addView(note, 1.0f);
+    row->addView(NewLabel("Held by a dock widget titled \"Layers\" for a host to dock"), 1.0f);
 
     // The dock widget makes no widget of its own, so it joins the page's object
     // tree (which owns it) but no layout.
@@ -153,9 +174,7 @@ void AddPreview(CKyUIVerticalLayout* page)
     auto* picture = new CKyUILabel;
     picture->setIcon(QIcon(QPixmap::fromImage(preview->picture)));
     row->addView(picture);
-    auto* note = NewLabel("Drawn off screen by the preview view's paintEvent, shown by a label.");
-    note->setWordWrap(true);
-    row->addView(note, 1.0f);
+    row->addView(NewLabel("Drawn off screen by a preview view, shown by a label"), 1.0f);
 }
 
 } // namespace
@@ -163,6 +182,7 @@ void AddPreview(CKyUIVerticalLayout* page)
 GalleryPage BuildContainersPage(const GalleryReport&)
 {
     CKyUIVerticalLayout* page = NewPage();
+    AddGroupBoxes(page);
     AddLayouts(page);
     AddAppearance(page);
     GalleryPage::ShownFunction scroll = AddScrollableArea(page);
@@ -170,7 +190,7 @@ GalleryPage BuildContainersPage(const GalleryReport&)
     AddPreview(page);
 
     CKyUIHorizontalLayout* stacked = AddRow(page, "Stacked widget");
-    auto* note = NewLabel("Holds the pages of this dialog under their tabs.");
+    auto* note = NewLabel("Holds the pages of this dialog under their tabs");
     stacked->addView(note, 1.0f);
     AddPageFiller(page);
     return {"Containers", page, scroll};

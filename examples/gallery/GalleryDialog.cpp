@@ -9,7 +9,7 @@ void GalleryDialog::SetupUI()
 {
     setWindowTitle("CommonUI gallery");
     CKyUIVerticalLayout* root = GetLayout();
-    root->setMinimumWidth(640);
+    root->setMinimumWidth(680);
 
     m_pages = new CKyUIStackedWidget;
     root->addView(m_pages, 1.0f);

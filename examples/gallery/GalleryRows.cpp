@@ -58,6 +58,13 @@ CKyUILabel* NewLabel(const QString& text)
     return label;
 }
 
+CKyUILabel* Caption(const QString& text)
+{
+    auto* label = NewLabel(text);
+    label->setBoldText(true);
+    return label;
+}
+
 CKyUIPushButton* NewButton(const QString& text)
 {
     auto* button = new CKyUIPushButton;

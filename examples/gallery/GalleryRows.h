@@ -29,6 +29,8 @@ void AddFiller(CKyUIBaseView* row);
 // A blank that takes the rest of a page's height.
 void AddPageFiller(CKyUIVerticalLayout* page);
 CKyUILabel* NewLabel(const QString& text);
+// A bold label that names a box.
+CKyUILabel* Caption(const QString& text);
 CKyUIPushButton* NewButton(const QString& text);
 // A small drawing of a drilled hole with its centre lines.
 QPixmap HoleIcon(int size);
