@@ -25,6 +25,14 @@ const char* const FontFiles[] = {
 };
 } // namespace
 
+void UseOffscreenPlatform()
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    for (const char* scaling : {"QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS", "QT_AUTO_SCREEN_SCALE_FACTOR",
+                                "QT_ENABLE_HIGHDPI_SCALING", "QT_DEVICE_PIXEL_RATIO", "QT_FONT_DPI"})
+        qunsetenv(scaling);
+}
+
 bool UseStableLook(QString* problem)
 {
     QApplication::setStyle(QStyleFactory::create("Fusion"));

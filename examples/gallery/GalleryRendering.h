@@ -9,6 +9,10 @@
 namespace GalleryRendering
 {
 
+// Before the QApplication exists: the offscreen platform at a scale of 1,
+// whatever scaling the caller's environment asks for.
+void UseOffscreenPlatform();
+
 // Fusion style and DejaVu Sans at 12 px (the theme's size) for the whole
 // application, so that the pictures do not depend on the desktop's fonts.
 // Returns false, with the reason, when the font files are missing; call it

@@ -17,7 +17,7 @@ int main(int argc, char** argv)
     const bool headless =
         qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
     if (headless)
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+        GalleryRendering::UseOffscreenPlatform();
     QApplication application(argc, argv);
 
     QString problem;
