@@ -3,6 +3,7 @@
 #include "UI/CKyUIDialog.h"
 
 class CKyUILabel;
+class CKyUITextEdit;
 
 // The dialog a drilling plug-in shows before it places a pattern of holes.
 class HolePatternDialog : public CKyUIDialog
@@ -11,5 +12,6 @@ public:
     void SetupUI() override;
 
 private:
+    CKyUITextEdit* m_diameter = nullptr;
     CKyUILabel* m_status = nullptr;
 };

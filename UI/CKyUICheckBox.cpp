@@ -1,0 +1,46 @@
+#include "UI/CKyUICheckBox.h"
+
+#include "UI/Impl/CKyUICheckBoxImpl.h"
+
+CKyUICheckBox::CKyUICheckBox()
+{
+    auto* impl = new CKyUICheckBoxImpl(this);
+    setImpl(impl);
+    impl->CreateFrontendControl();
+}
+
+CKyUICheckBox::~CKyUICheckBox() = default;
+
+void CKyUICheckBox::setText(const QString& text)
+{
+    implAs<CKyUICheckBoxImpl>()->SetText(text);
+}
+
+void CKyUICheckBox::setChecked(bool checked)
+{
+    implAs<CKyUICheckBoxImpl>()->SetChecked(checked);
+}
+
+bool CKyUICheckBox::isChecked() const
+{
+    return implAs<CKyUICheckBoxImpl>()->IsChecked();
+}
+
+void CKyUICheckBox::setTextSize(float) {}
+
+void CKyUICheckBox::setResourceIcon(const QString&) {}
+
+CKyUISignal<void(int)>& CKyUICheckBox::stateChanged()
+{
+    return implAs<CKyUICheckBoxImpl>()->stateChanged;
+}
+
+CKyUISignal<void(bool)>& CKyUICheckBox::toggled()
+{
+    return implAs<CKyUICheckBoxImpl>()->toggled;
+}
+
+CKyUISignal<void(bool)>& CKyUICheckBox::clicked()
+{
+    return implAs<CKyUICheckBoxImpl>()->clicked;
+}

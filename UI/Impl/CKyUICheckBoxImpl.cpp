@@ -1,0 +1,45 @@
+#include "UI/Impl/CKyUICheckBoxImpl.h"
+
+CKyUICheckBoxImpl::CKyUICheckBoxImpl(CKyUIObject* owner)
+    : CKyUIBaseViewImpl(owner)
+    , stateChanged(owner)
+    , toggled(owner)
+    , clicked(owner)
+{}
+
+CKyUICheckBoxImpl::~CKyUICheckBoxImpl() = default;
+
+QString CKyUICheckBoxImpl::GetFrontendClassName()
+{
+    return QStringLiteral("QCheckBox");
+}
+
+void CKyUICheckBoxImpl::SetText(const QString& text)
+{
+    if (m_text == text)
+        return;
+    m_text = text;
+    SetTextImpl(m_text);
+}
+
+void CKyUICheckBoxImpl::SetChecked(bool checked)
+{
+    if (m_checked == checked)
+        return;
+    m_checked = checked;
+    SetCheckedImpl(checked);
+    EmitState(checked);
+}
+
+void CKyUICheckBoxImpl::OnSwitchChanged(bool checked)
+{
+    m_checked = checked;
+    EmitState(checked);
+}
+
+void CKyUICheckBoxImpl::EmitState(bool checked)
+{
+    // 1 and 0, not the toolkit's check-state numbering.
+    stateChanged.Emit(checked ? 1 : 0);
+    toggled.Emit(checked);
+}

@@ -1,0 +1,192 @@
+#include "UI/Impl/CKyUIComboBoxImpl.h"
+
+#include <algorithm>
+
+CKyUIComboBoxImpl::CKyUIComboBoxImpl(CKyUIObject* owner)
+    : CKyUIBaseViewImpl(owner)
+    , activated(owner)
+    , currentIndexChanged(owner)
+    , currentStringChanged(owner)
+    , editTextChanged(owner)
+    , editingFinished(owner)
+{}
+
+CKyUIComboBoxImpl::~CKyUIComboBoxImpl() = default;
+
+QString CKyUIComboBoxImpl::GetFrontendClassName()
+{
+    return QStringLiteral("QComboBox");
+}
+
+void CKyUIComboBoxImpl::SetEditable(bool editable)
+{
+    m_editable = editable;
+    SetEditableImpl(editable);
+}
+
+void CKyUIComboBoxImpl::AddItem(const QString& text, const QVariant& data)
+{
+    m_items.append(Item(QIcon(), text, data));
+    // Reaches nothing: from here on the model and the widget's list differ.
+    AddItemImpl(text);
+}
+
+void CKyUIComboBoxImpl::AddItem(const QIcon& icon, const QString& text, const QVariant& data)
+{
+    m_items.append(Item(icon, text, data));
+    AddItemImpl(icon, text);
+}
+
+void CKyUIComboBoxImpl::InsertItem(int index, const QString& text, const QVariant& data)
+{
+    m_items.insert(InsertPosition(index), Item(QIcon(), text, data));
+    InsertItemImpl(index, text);
+}
+
+void CKyUIComboBoxImpl::InsertItem(int index, const QIcon& icon, const QString& text, const QVariant& data)
+{
+    m_items.insert(InsertPosition(index), Item(icon, text, data));
+    InsertItemImpl(index, icon, text);
+}
+
+void CKyUIComboBoxImpl::InsertItems(int index, const QStringList& texts)
+{
+    for (const QString& text : texts)
+        InsertItem(index++, text, QVariant());
+}
+
+void CKyUIComboBoxImpl::RemoveItem(int index)
+{
+    if (!InRange(index))
+        return;
+    m_items.remove(index);
+    RemoveItemImpl(index);
+}
+
+void CKyUIComboBoxImpl::Clear()
+{
+    // The current index and text stay as they were.
+    m_items.clear();
+    ClearImpl();
+}
+
+QString CKyUIComboBoxImpl::ItemText(int index) const
+{
+    return InRange(index) ? std::get<1>(m_items.at(index)) : QString();
+}
+
+QVariant CKyUIComboBoxImpl::ItemData(int index, int) const
+{
+    return InRange(index) ? std::get<2>(m_items.at(index)) : QVariant();
+}
+
+void CKyUIComboBoxImpl::SetItemData(int index, const QVariant& value, int)
+{
+    if (InRange(index))
+        std::get<2>(m_items[index]) = value;
+}
+
+int CKyUIComboBoxImpl::FindText(const QString& text, Qt::MatchFlags) const
+{
+    for (int i = 0; i < m_items.size(); ++i) {
+        if (QString::compare(std::get<1>(m_items.at(i)), text, Qt::CaseSensitive) == 0)
+            return i;
+    }
+    return -1;
+}
+
+int CKyUIComboBoxImpl::FindData(const QVariant& value, int, Qt::MatchFlags) const
+{
+    for (int i = 0; i < m_items.size(); ++i) {
+        if (std::get<2>(m_items.at(i)) == value)
+            return i;
+    }
+    return -1;
+}
+
+void CKyUIComboBoxImpl::setItemText(int index, const QString& text)
+{
+    SetItemTextImpl(index, text);
+}
+
+void CKyUIComboBoxImpl::SetCurrentIndex(int index)
+{
+    if (!InRange(index))
+        return;
+    if (index != m_currentIndex) {
+        m_currentIndex = index;
+        m_currentText = std::get<1>(m_items.at(index));
+        const QString text = m_currentText;
+        currentIndexChanged.Emit(index);
+        currentStringChanged.Emit(text);
+    }
+    // Also when unchanged: the user may have picked another entry on screen.
+    SetCurrentIndexImpl(m_currentIndex);
+}
+
+void CKyUIComboBoxImpl::SetCurrentText(const QString& text)
+{
+    if (m_currentText == text)
+        return;
+    m_currentText = text;
+    SetEditTextImpl(m_currentText);
+    currentStringChanged.Emit(text);
+}
+
+void CKyUIComboBoxImpl::SetEditText(const QString& text)
+{
+    m_currentText = text;
+    SetEditTextImpl(m_currentText);
+}
+
+void CKyUIComboBoxImpl::ClearEditText()
+{
+    // The model's text only; the widget keeps what it shows.
+    m_currentText.clear();
+}
+
+void CKyUIComboBoxImpl::SetIconSize(QSize size)
+{
+    SetIconSizeImpl(size);
+}
+
+void CKyUIComboBoxImpl::SetMaxVisibleItems(int count)
+{
+    SetMaxVisibleItemsImpl(count);
+}
+
+void CKyUIComboBoxImpl::OnCurrentIndexChanged(int index)
+{
+    if (index == m_currentIndex)
+        return;
+    m_currentIndex = index;
+    m_currentText = ItemText(index);
+    const QString text = m_currentText;
+    activated.Emit(index);
+    currentIndexChanged.Emit(index);
+    currentStringChanged.Emit(text);
+}
+
+void CKyUIComboBoxImpl::OnEditTextChanged(const QString& text)
+{
+    m_currentText = text;
+    editTextChanged.Emit(text);
+}
+
+void CKyUIComboBoxImpl::OnEditingFinished()
+{
+    editingFinished.Emit();
+}
+
+int CKyUIComboBoxImpl::InsertPosition(int index) const
+{
+    return std::max(0, std::min(index, m_items.size()));
+}
+
+void CKyUIComboBoxImpl::AddItemImpl(const QString&) {}
+
+void CKyUIComboBoxImpl::SetHideEmptyTextImpl(bool) {}
+
+void CKyUIComboBoxImpl::SetIconSizeImpl(QSize) {}
+
+void CKyUIComboBoxImpl::SetMaxVisibleItemsImpl(int) {}

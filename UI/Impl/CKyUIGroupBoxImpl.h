@@ -1,0 +1,45 @@
+#pragma once
+
+#include "UI/CKyUIGroupBox.h"
+#include "UI/CKyUISignal.h"
+#include "UI/Impl/CKyUIBaseViewImpl.h"
+
+class CKyUIGroupBoxImpl : public CKyUIBaseViewImpl
+{
+public:
+    CKyUIGroupBoxImpl(CKyUIObject* owner, CKyUIGroupBox::Orientation orientation);
+    ~CKyUIGroupBoxImpl() override;
+
+    QString GetFrontendClassName() override;
+    void CreateFrontendControl() override;
+    void AddViewImpl(CKyUIBaseView* view, float stretch) override;
+    void InsertViewImpl(CKyUIBaseView* view, int index, float stretch) override;
+
+    void SetTitle(const QString& title);
+    const QString& Title() const { return m_title; }
+    CKyUIGroupBox::Orientation GetOrientation() const { return m_orientation; }
+    void UseMargin(bool use);
+    void SetContentsMargins(int left, int top, int right, int bottom);
+    void SetSpacing(int spacing);
+    void SetCollapsed(bool collapsed);
+    bool IsCollapsed() const { return m_collapsed; }
+
+    // For a collapse coming from the toolkit side; nothing connects it.
+    void OnCollapsedStateChanged(bool collapsed);
+
+    void SetTitleImpl(const QString& title);
+    void UseMarginImpl(bool use);
+    void SetContentsMarginsImpl(int left, int top, int right, int bottom);
+    void SetSpacingImpl(int spacing);
+    void SetCollapsedImpl(bool collapsed);
+
+    CKyUISignal<void(bool)> onCollapsedStateChanged;
+
+private:
+    bool IsVertical() const { return m_orientation == CKyUIGroupBox::Vertical; }
+    void UpdateParent();
+
+    QString m_title;
+    const CKyUIGroupBox::Orientation m_orientation;
+    bool m_collapsed = false;
+};

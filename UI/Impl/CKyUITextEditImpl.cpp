@@ -1,0 +1,102 @@
+#include "UI/Impl/CKyUITextEditImpl.h"
+
+CKyUITextEditImpl::CKyUITextEditImpl(CKyUIObject* owner)
+    : CKyUIBaseViewImpl(owner)
+    , textChanged(owner)
+    , editingFinished(owner)
+    , textEdited(owner)
+    , returnPressed(owner)
+{}
+
+QString CKyUITextEditImpl::GetFrontendClassName()
+{
+    return QStringLiteral("CKyUITextEditFrontend");
+}
+
+int CKyUITextEditImpl::WidthFor(int size)
+{
+    switch (size) {
+    case 1:
+        return 69;
+    case 2:
+        return 158;
+    case 3:
+        return 248;
+    case 4:
+        return 336;
+    default:
+        return 39;
+    }
+}
+
+void CKyUITextEditImpl::SetText(const QString& text)
+{
+    if (m_text == text)
+        return;
+    m_text = text;
+    // The widget reports the change at once: textChanged and textEdited come
+    // from there, and one more textChanged follows here.
+    // A copy: the widget's report overwrites the stored text mid-call.
+    SetTextImpl(QString(m_text));
+    textChanged.Emit(m_text);
+}
+
+void CKyUITextEditImpl::SetPlaceholderText(const QString& text)
+{
+    if (m_placeholderText == text)
+        return;
+    m_placeholderText = text;
+    SetPlaceholderTextImpl(m_placeholderText);
+}
+
+void CKyUITextEditImpl::SetInputMask(const QString& mask)
+{
+    if (m_inputMask == mask)
+        return;
+    m_inputMask = mask;
+    SetInputMaskImpl(m_inputMask);
+}
+
+void CKyUITextEditImpl::SetClearButtonEnabled(bool enabled)
+{
+    m_clearButtonEnabled = enabled;
+    SetClearButtonEnabledImpl(enabled);
+}
+
+void CKyUITextEditImpl::SetFocus()
+{
+    SetFocusImpl();
+}
+
+void CKyUITextEditImpl::SetInputType(int type)
+{
+    SetInputTypeImpl(type);
+}
+
+void CKyUITextEditImpl::SelectAll()
+{
+    SelectAllImpl();
+}
+
+void CKyUITextEditImpl::Clear()
+{
+    SetText(QString());
+}
+
+void CKyUITextEditImpl::OnEditTextChanged(const QString& text)
+{
+    // Every change the widget reports, typed or set, counts as an edit.
+    m_text = text;
+    textChanged.Emit(m_text);
+    textEdited.Emit(m_text);
+}
+
+void CKyUITextEditImpl::OnEditingFinished()
+{
+    editingFinished.Emit();
+}
+
+void CKyUITextEditImpl::OnReturnPressed()
+{
+    returnPressed.Emit();
+}

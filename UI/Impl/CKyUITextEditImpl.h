@@ -1,0 +1,60 @@
+#pragma once
+
+#include "UI/CKyUISignal.h"
+#include "UI/Impl/CKyUIBaseViewImpl.h"
+
+#include <QtCore/QMetaObject>
+
+class CKyUITextEditImpl : public CKyUIBaseViewImpl
+{
+public:
+    explicit CKyUITextEditImpl(CKyUIObject* owner);
+    ~CKyUITextEditImpl() override;
+
+    QString GetFrontendClassName() override;
+    void CreateFrontendControl() override;
+
+    // The preferable width of a width class.
+    static int WidthFor(int size);
+
+    void SetText(const QString& text);
+    const QString& Text() const { return m_text; }
+    void SetPlaceholderText(const QString& text);
+    const QString& PlaceholderText() const { return m_placeholderText; }
+    void SetInputMask(const QString& mask);
+    const QString& InputMask() const { return m_inputMask; }
+    void SetClearButtonEnabled(bool enabled);
+    bool IsClearButtonEnabled() const { return m_clearButtonEnabled; }
+    void SetFocus();
+    void SetInputType(int type);
+    // Working, but the public class does not offer them.
+    void SelectAll();
+    void Clear();
+
+    void OnEditTextChanged(const QString& text);
+    // Nothing leads here: editingFinished is never emitted.
+    void OnEditingFinished();
+    void OnReturnPressed();
+
+    void SetTextImpl(const QString& text);
+    void SetPlaceholderTextImpl(const QString& text);
+    void SetInputMaskImpl(const QString& mask);
+    void SetClearButtonEnabledImpl(bool enabled);
+    void SetFocusImpl();
+    void SetInputTypeImpl(int type);
+    void SelectAllImpl();
+
+    CKyUISignal<void(QString)> textChanged;
+    CKyUISignal<void()> editingFinished;
+    CKyUISignal<void(QString)> textEdited;
+    CKyUISignal<void()> returnPressed;
+
+private:
+    QString m_text;
+    QString m_inputMask;
+    QString m_placeholderText;
+    bool m_clearButtonEnabled = false;
+    // The widget outlives this object until the event loop deletes it.
+    QMetaObject::Connection m_textChangedConnection;
+    QMetaObject::Connection m_returnPressedConnection;
+};

@@ -1,0 +1,63 @@
+#include "UI/Impl/qt/CKyUITextViewFrontend.h"
+
+#include "UI/Impl/CKyUITextViewImpl.h"
+
+#include <QtGui/QAbstractTextDocumentLayout>
+#include <QtGui/QFontMetrics>
+#include <QtGui/QTextCursor>
+#include <QtGui/QTextDocument>
+
+CKyUITextViewFrontend::CKyUITextViewFrontend()
+    : QTextEdit(nullptr)
+{
+    connect(this, SIGNAL(textChanged()), this, SLOT(OnEditContentChanged()));
+    setTabChangesFocus(true);
+    setAcceptRichText(false);
+}
+
+void CKyUITextViewFrontend::setText(QString text)
+{
+    if (text.isEmpty()) {
+        QTextEdit::setText(text);
+        return;
+    }
+    QTextCursor editBlock(document());
+    editBlock.beginEditBlock();
+    QTextCursor cursor = textCursor();
+    const int length = toPlainText().length();
+    cursor.setPosition(length);
+    for (int i = 0; i < length; ++i)
+        cursor.movePosition(QTextCursor::PreviousCharacter, QTextCursor::KeepAnchor, 1);
+    cursor.insertText(text, currentCharFormat());
+    setTextCursor(cursor);
+    adjustSize();
+    document()->adjustSize();
+    editBlock.endEditBlock();
+}
+
+void CKyUITextViewFrontend::focusInEvent(QFocusEvent* event)
+{
+    if (impl)
+        impl->OnFocusIn();
+    QTextEdit::focusInEvent(event);
+}
+
+void CKyUITextViewFrontend::focusOutEvent(QFocusEvent* event)
+{
+    if (impl)
+        impl->OnFocusOut();
+    QTextEdit::focusOutEvent(event);
+}
+
+void CKyUITextViewFrontend::OnEditContentChanged()
+{
+    if (!impl)
+        return;
+    impl->OnEditTextChanged(document()->toPlainText());
+    if (!impl || !impl->GetAdjustHeightToContent())
+        return;
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    const int documentHeight = static_cast<int>(document()->documentLayout()->documentSize().height());
+    const int lineSpacing = QFontMetrics(font()).lineSpacing();
+    setFixedHeight(documentHeight != 0 ? documentHeight + lineSpacing / 2 - 2 : 25);
+}

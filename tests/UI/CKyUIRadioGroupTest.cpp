@@ -1,0 +1,113 @@
+#include "UI/CKyUIRadioGroup.h"
+#include "UI/CKyUIGroupBox.h"
+#include "UI/CKyUIRadioButton.h"
+#include "support/QtPrinters.h"
+
+#include <gtest/gtest.h>
+
+#include <QtCore/QPointer>
+#include <QtCore/QStringList>
+#include <QtTest/QTest>
+#include <QtWidgets/QBoxLayout>
+#include <QtWidgets/QButtonGroup>
+#include <QtWidgets/QGroupBox>
+#include <QtWidgets/QRadioButton>
+
+namespace
+{
+QRadioButton* WidgetOf(const CKyUIRadioButton* button)
+{
+    return qobject_cast<QRadioButton*>(button->getHandle());
+}
+
+QBoxLayout* LayoutOf(const CKyUIGroupBox& box)
+{
+    return qobject_cast<QBoxLayout*>(qobject_cast<QGroupBox*>(box.getHandle())->layout());
+}
+
+// A group box holding a group of three buttons, "A", "B" and "C".
+struct Units
+{
+    Units()
+    {
+        box.addView(group);
+        for (const char* text : {"A", "B", "C"}) {
+            auto* button = new CKyUIRadioButton;
+            button->setText(text);
+            group->addRadioButton(button);
+            buttons.append(button);
+        }
+    }
+
+    CKyUIGroupBox box{CKyUIGroupBox::Vertical, true};
+    CKyUIRadioGroup* group = new CKyUIRadioGroup;
+    QList<CKyUIRadioButton*> buttons;
+};
+} // namespace
+
+TEST(CKyUIRadioGroupTest, ButtonsJoinTheGroupBoxLayoutInOrderAndTheGroupOwnsThem)
+{
+    Units units;
+    QBoxLayout* layout = LayoutOf(units.box);
+
+    ASSERT_EQ(layout->count(), 3);
+    for (int i = 0; i < 3; ++i) {
+        QWidget* widget = WidgetOf(units.buttons.at(i));
+        EXPECT_EQ(layout->itemAt(i)->widget(), widget);
+        EXPECT_EQ(layout->stretch(i), 0);
+        EXPECT_EQ(widget->sizePolicy(),
+                  QSizePolicy(QSizePolicy::MinimumExpanding, QSizePolicy::MinimumExpanding));
+        EXPECT_EQ(units.buttons.at(i)->parent(), units.group);
+    }
+    EXPECT_EQ(units.box.children(), QList<CKyUIObject*>({units.group}));
+
+    // The group's own toolkit object is no widget and holds no button.
+    auto* buttonGroup = qobject_cast<QButtonGroup*>(units.group->getHandle());
+    ASSERT_NE(buttonGroup, nullptr);
+    EXPECT_TRUE(buttonGroup->buttons().isEmpty());
+
+    units.group->setTitle("Units");
+    EXPECT_TRUE(qobject_cast<QGroupBox*>(units.box.getHandle())->title().isEmpty());
+    EXPECT_EQ(layout->count(), 3);
+}
+
+TEST(CKyUIRadioGroupTest, ExclusionIsShownOnScreenOnlyAndNoClickMovesTheModel)
+{
+    Units units;
+    QStringList log;
+    for (CKyUIRadioButton* button : units.buttons) {
+        button->toggled().connect(
+            [&log, button](bool on) { log.append(button->text() + (on ? " on" : " off")); });
+        button->clicked().connect([&log] { log.append("clicked"); });
+        button->released().connect([&log] { log.append("released"); });
+    }
+    auto* box = qobject_cast<QWidget*>(units.box.getHandle());
+    box->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(box));
+
+    units.buttons.at(0)->setChecked(true);
+    units.buttons.at(1)->setChecked(true);
+    EXPECT_FALSE(WidgetOf(units.buttons.at(0))->isChecked());
+    EXPECT_TRUE(WidgetOf(units.buttons.at(1))->isChecked());
+    EXPECT_TRUE(units.buttons.at(0)->isChecked());
+    EXPECT_EQ(log, QStringList({"A on", "B on"}));
+
+    QRadioButton* third = WidgetOf(units.buttons.at(2));
+    QTest::mouseClick(third, Qt::LeftButton, Qt::NoModifier, QPoint(8, third->height() / 2));
+    EXPECT_TRUE(third->isChecked());
+    EXPECT_FALSE(WidgetOf(units.buttons.at(1))->isChecked());
+    EXPECT_FALSE(units.buttons.at(2)->isChecked());
+    EXPECT_TRUE(units.buttons.at(1)->isChecked());
+    EXPECT_EQ(log, QStringList({"A on", "B on"}));
+}
+
+TEST(CKyUIRadioGroupTest, DestroyingTheBoxTakesGroupButtonsAndTheButtonGroupWithIt)
+{
+    QPointer<QObject> buttonGroup;
+    {
+        Units units;
+        buttonGroup = units.group->getHandle();
+        ASSERT_FALSE(buttonGroup.isNull());
+    }
+    EXPECT_TRUE(buttonGroup.isNull());
+}

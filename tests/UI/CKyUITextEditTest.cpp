@@ -1,0 +1,211 @@
+#include "UI/CKyUITextEdit.h"
+#include "support/QtPrinters.h"
+#include "support/TestDialogs.h"
+
+#include <gtest/gtest.h>
+
+#include <QtCore/QStringList>
+#include <QtTest/QTest>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QVBoxLayout>
+
+namespace
+{
+QLineEdit* WidgetOf(const CKyUITextEdit& edit)
+{
+    return qobject_cast<QLineEdit*>(edit.getHandle());
+}
+
+void Record(CKyUITextEdit& edit, QStringList& log)
+{
+    edit.textChanged().connect([&log](QString text) { log.append("changed " + text); });
+    edit.textEdited().connect([&log](QString text) { log.append("edited " + text); });
+    edit.editingFinished().connect([&log] { log.append("finished"); });
+    edit.returnPressed().connect([&log] { log.append("return"); });
+}
+
+void ShowAndFocus(QWidget* widget)
+{
+    widget->window()->show();
+    widget->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(widget->window()));
+    widget->setFocus();
+    QTRY_VERIFY(widget->hasFocus());
+}
+} // namespace
+
+TEST(CKyUITextEditTest, WidthClassGivesThePreferableWidth)
+{
+    const QList<QPair<int, int>> widths = {{0, 39}, {1, 69}, {2, 158}, {3, 248}, {4, 336}, {5, 39}};
+    for (const auto& entry : widths) {
+        CKyUITextEdit edit(static_cast<CKyUITextEdit::_Size>(entry.first));
+        EXPECT_EQ(edit.width(), entry.second) << "width class " << entry.first;
+        EXPECT_EQ(edit.height(), -1);
+    }
+
+    CKyUITextEdit edit(CKyUITextEdit::Medium);
+    ASSERT_NE(WidgetOf(edit), nullptr);
+    EXPECT_STREQ(WidgetOf(edit)->metaObject()->className(), "CKyUITextEditFrontend");
+    EXPECT_EQ(WidgetOf(edit)->styleSheet(), "QLineEdit { }");
+    EXPECT_TRUE(edit.text().isEmpty());
+}
+
+TEST(CKyUITextEditTest, SetTextEmitsChangedEditedChangedAndNothingForTheSameText)
+{
+    QStringList log;
+    CKyUITextEdit edit(CKyUITextEdit::Small);
+    Record(edit, log);
+
+    edit.setText("a");
+    EXPECT_EQ(log, QStringList({"changed a", "edited a", "changed a"}));
+    EXPECT_EQ(edit.text(), "a");
+    EXPECT_EQ(WidgetOf(edit)->text(), "a");
+
+    // Changed behind the model's back and without a report: setting the
+    // stored text again leaves the widget alone.
+    log.clear();
+    WidgetOf(edit)->blockSignals(true);
+    WidgetOf(edit)->setText("b");
+    WidgetOf(edit)->blockSignals(false);
+    edit.setText("a");
+    edit.setPlainText("a");
+    EXPECT_TRUE(log.isEmpty());
+    EXPECT_EQ(WidgetOf(edit)->text(), "b");
+
+    edit.setPlainText("c");
+    EXPECT_EQ(log, QStringList({"changed c", "edited c", "changed c"}));
+    EXPECT_EQ(edit.toPlainText(), "c");
+}
+
+TEST(CKyUITextEditTest, TypingEmitsChangedAndEditedWithTheWholeText)
+{
+    QStringList log;
+    CKyUITextEdit edit(CKyUITextEdit::Small);
+    Record(edit, log);
+
+    QTest::keyClicks(WidgetOf(edit), "ab");
+    EXPECT_EQ(log, QStringList({"changed a", "edited a", "changed ab", "edited ab"}));
+    EXPECT_EQ(edit.text(), "ab");
+
+    log.clear();
+    QTest::keyClick(WidgetOf(edit), Qt::Key_Backspace);
+    EXPECT_EQ(log, QStringList({"changed a", "edited a"}));
+    EXPECT_EQ(edit.text(), "a");
+}
+
+TEST(CKyUITextEditTest, BlockedSignalsStillLetTheTextFollowTheWidget)
+{
+    QStringList log;
+    CKyUITextEdit edit(CKyUITextEdit::Small);
+    Record(edit, log);
+
+    edit.blockSignals(true);
+    QTest::keyClicks(WidgetOf(edit), "xy");
+    EXPECT_EQ(edit.text(), "xy");
+    edit.setText("z");
+    EXPECT_EQ(edit.text(), "z");
+    QTest::keyClick(WidgetOf(edit), Qt::Key_Return);
+    EXPECT_TRUE(log.isEmpty());
+
+    edit.blockSignals(false);
+    QTest::keyClick(WidgetOf(edit), Qt::Key_Return);
+    EXPECT_EQ(log, QStringList({"return"}));
+}
+
+TEST(CKyUITextEditTest, ReturnAndEnterNeverReachTheDialogsDefaultButton)
+{
+    RecordingHost host;
+    SampleDialog dialog;
+    QStringList log;
+    CKyUITextEdit* edit = nullptr;
+    dialog.afterSetup = [&](SampleDialog& self) {
+        edit = new CKyUITextEdit(CKyUITextEdit::Large);
+        self.GetLayout()->insertView(edit, 0);
+        edit->setText("value");
+        Record(*edit, log);
+        self.box->accepted().connect([&log] { log.append("box accepted"); });
+    };
+
+    bool runningAfterKeys = false;
+    const int result = RunModally(dialog, [&](SampleDialog& self) {
+        // OK is the default button: a Return anywhere else would press it.
+        ASSERT_TRUE(qobject_cast<QPushButton*>(self.boxButton(CKyUIDialogButtonBox::Ok))->isDefault());
+        QLineEdit* widget = WidgetOf(*edit);
+        widget->setFocus();
+        QTRY_VERIFY(widget->hasFocus());
+        QTest::keyClick(widget, Qt::Key_Return);
+        QTest::keyClick(widget, Qt::Key_Enter, Qt::KeypadModifier);
+        runningAfterKeys = self.widget()->isVisible() && QApplication::activeModalWidget() == self.widget();
+        self.reject();
+    });
+
+    EXPECT_TRUE(runningAfterKeys);
+    EXPECT_EQ(result, 0);
+    EXPECT_EQ(log, QStringList({"return", "return"}));
+    EXPECT_EQ(edit->text(), "value");
+}
+
+TEST(CKyUITextEditTest, PlaceholderAndMaskAreForwardedOnlyWhenChangedTheClearButtonAlways)
+{
+    CKyUITextEdit edit(CKyUITextEdit::Small);
+    QLineEdit* widget = WidgetOf(edit);
+
+    edit.setPlaceholderText("Width");
+    edit.setInputMask("999");
+    EXPECT_EQ(edit.placeholderText(), "Width");
+    EXPECT_EQ(edit.inputMask(), "999");
+    EXPECT_EQ(widget->placeholderText(), "Width");
+    EXPECT_EQ(widget->inputMask(), "999");
+
+    widget->setPlaceholderText("other");
+    widget->setInputMask("");
+    edit.setPlaceholderText("Width");
+    edit.setInputMask("999");
+    EXPECT_EQ(widget->placeholderText(), "other");
+    EXPECT_TRUE(widget->inputMask().isEmpty());
+
+    edit.setClearButtonEnabled(true);
+    widget->setClearButtonEnabled(false);
+    edit.setClearButtonEnabled(true);
+    EXPECT_TRUE(widget->isClearButtonEnabled());
+    EXPECT_TRUE(edit.isClearButtonEnabled());
+}
+
+TEST(CKyUITextEditTest, PublicNoOperationsLeaveWidgetAndTextAlone)
+{
+    QStringList log;
+    CKyUITextEdit edit(CKyUITextEdit::Small);
+    edit.setText("keep me");
+    QLineEdit* widget = WidgetOf(edit);
+    widget->setCursorPosition(2);
+    Record(edit, log);
+
+    edit.selectAll();
+    edit.clear();
+    edit.setReadOnly(true);
+    edit.moveCursor(QTextCursor::End, QTextCursor::KeepAnchor);
+    edit.setInputType(3);
+
+    EXPECT_EQ(edit.text(), "keep me");
+    EXPECT_EQ(widget->text(), "keep me");
+    EXPECT_FALSE(widget->hasSelectedText());
+    EXPECT_FALSE(widget->isReadOnly());
+    EXPECT_EQ(widget->cursorPosition(), 2);
+    EXPECT_EQ(widget->echoMode(), QLineEdit::Normal);
+    EXPECT_TRUE(log.isEmpty());
+}
+
+TEST(CKyUITextEditTest, SetFocusGivesTheWidgetTheFocus)
+{
+    QWidget window;
+    auto* layout = new QVBoxLayout(&window);
+    auto* other = new QLineEdit;
+    layout->addWidget(other);
+    CKyUITextEdit edit(CKyUITextEdit::Small);
+    layout->addWidget(WidgetOf(edit));
+    ShowAndFocus(other);
+
+    edit.setFocus();
+    QTRY_VERIFY(WidgetOf(edit)->hasFocus());
+}

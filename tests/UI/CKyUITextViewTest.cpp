@@ -1,0 +1,250 @@
+#include "UI/CKyUITextView.h"
+#include "support/QtPrinters.h"
+
+#include <gtest/gtest.h>
+
+#include <QtGui/QAbstractTextDocumentLayout>
+#include <QtGui/QClipboard>
+#include <QtGui/QFontMetrics>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QTextBlock>
+#include <QtGui/QTextCursor>
+#include <QtGui/QTextDocument>
+#include <QtTest/QSignalSpy>
+#include <QtTest/QTest>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QTextEdit>
+#include <QtWidgets/QVBoxLayout>
+
+#include <QtCore/QMimeData>
+
+namespace
+{
+QTextEdit* WidgetOf(const CKyUITextView& view)
+{
+    return qobject_cast<QTextEdit*>(view.getHandle());
+}
+
+// A shown window with a line edit before and one after the text view, in
+// this tab order. Made before the view, so that the view goes first and the
+// window then deletes the widget the view released.
+struct Window
+{
+    void Hold(CKyUITextView& view)
+    {
+        auto* layout = new QVBoxLayout(&window);
+        layout->addWidget(before);
+        layout->addWidget(WidgetOf(view));
+        layout->addWidget(after);
+        window.show();
+        window.activateWindow();
+    }
+
+    QWidget window;
+    QLineEdit* before = new QLineEdit;
+    QLineEdit* after = new QLineEdit;
+};
+} // namespace
+
+TEST(CKyUITextViewTest, WidgetMovesFocusOnTabAndTakesPlainText)
+{
+    CKyUITextView view;
+    QTextEdit* widget = WidgetOf(view);
+    ASSERT_NE(widget, nullptr);
+    EXPECT_STREQ(widget->metaObject()->className(), "CKyUITextViewFrontend");
+    EXPECT_EQ(widget->styleSheet(), "QTextEdit { }");
+    EXPECT_TRUE(widget->tabChangesFocus());
+    EXPECT_FALSE(widget->acceptRichText());
+    EXPECT_FALSE(view.getAdjustHeightToContent());
+    EXPECT_TRUE(view.getContent().isEmpty());
+
+    const QTextEdit::LineWrapMode wrap = widget->lineWrapMode();
+    view.setMultiline(false);
+    EXPECT_EQ(widget->lineWrapMode(), wrap);
+
+    view.setReadOnly(true);
+    EXPECT_TRUE(widget->isReadOnly());
+    view.setPlaceholderText("Notes");
+    EXPECT_EQ(widget->placeholderText(), "Notes");
+    widget->setPlaceholderText("other");
+    view.setPlaceholderText("Notes");
+    EXPECT_EQ(widget->placeholderText(), "other");
+    EXPECT_EQ(view.placeholderText(), "Notes");
+}
+
+TEST(CKyUITextViewTest, SetTextEmitsForEachChangeNoticeAndOnceMore)
+{
+    CKyUITextView view;
+    QSignalSpy notices(WidgetOf(view), SIGNAL(textChanged()));
+    int emitted = 0;
+    view.textChanged().connect([&emitted] { ++emitted; });
+
+    view.setText("first <b>line</b>");
+    ASSERT_GE(notices.count(), 1);
+    EXPECT_EQ(emitted, notices.count() + 1);
+    EXPECT_EQ(WidgetOf(view)->toPlainText(), "first <b>line</b>");
+    EXPECT_EQ(view.getContent(), "first <b>line</b>");
+
+    // The other ways in emit only through the widget's notices.
+    notices.clear();
+    emitted = 0;
+    view.setHtmlText("<i>x</i>");
+    view.addText("y");
+    view.addHtmlText("<b>z</b>");
+    view.clear();
+    EXPECT_EQ(emitted, notices.count());
+    EXPECT_TRUE(view.getContent().isEmpty());
+    EXPECT_TRUE(WidgetOf(view)->toPlainText().isEmpty());
+}
+
+TEST(CKyUITextViewTest, ReplacementIsPlainOneUndoableStepInTheCurrentFormat)
+{
+    CKyUITextView view;
+    QTextEdit* widget = WidgetOf(view);
+    view.setText("first");
+    widget->setFontWeight(QFont::Bold);
+
+    view.setHtmlText("<i>second</i>");
+    EXPECT_EQ(widget->toPlainText(), "<i>second</i>");
+    EXPECT_EQ(view.getContent(), "<i>second</i>");
+    QTextCursor cursor(widget->document());
+    cursor.setPosition(3);
+    EXPECT_EQ(cursor.charFormat().fontWeight(), QFont::Bold);
+
+    widget->document()->undo();
+    EXPECT_EQ(widget->toPlainText(), "first");
+    EXPECT_EQ(view.getContent(), "first");
+
+    view.setHtmlText("");
+    EXPECT_TRUE(widget->toPlainText().isEmpty());
+}
+
+TEST(CKyUITextViewTest, AddTextShowsMarkupLiterallyAddHtmlTextFormatted)
+{
+    CKyUITextView view;
+    QTextEdit* widget = WidgetOf(view);
+
+    view.addText("a < b > c & d");
+    EXPECT_EQ(widget->toPlainText(), "a < b > c & d");
+    EXPECT_EQ(view.getContent(), widget->toPlainText());
+
+    view.addHtmlText("<b>bold</b>");
+    EXPECT_EQ(widget->document()->blockCount(), 2);
+    const QTextBlock second = widget->document()->lastBlock();
+    EXPECT_EQ(second.text(), "bold");
+    QTextCursor cursor(second);
+    cursor.movePosition(QTextCursor::NextCharacter);
+    EXPECT_EQ(cursor.charFormat().fontWeight(), QFont::Bold);
+    EXPECT_EQ(view.getContent(), "a < b > c & d\nbold");
+}
+
+TEST(CKyUITextViewTest, HeightFollowsTheContentWhileAdjustingIsOn)
+{
+    CKyUITextView view;
+    QTextEdit* widget = WidgetOf(view);
+    widget->resize(200, 300);
+    view.setText("one");
+    EXPECT_EQ(widget->verticalScrollBarPolicy(), Qt::ScrollBarAsNeeded);
+    EXPECT_EQ(widget->minimumHeight(), 0);
+
+    view.setAdjustHeightToContent(true);
+    EXPECT_TRUE(view.getAdjustHeightToContent());
+    view.setText("one\ntwo\nthree");
+    const int documentHeight =
+        static_cast<int>(widget->document()->documentLayout()->documentSize().height());
+    const int lineSpacing = QFontMetrics(widget->font()).lineSpacing();
+    ASSERT_NE(documentHeight, 0);
+    EXPECT_EQ(widget->verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
+    EXPECT_EQ(widget->minimumHeight(), documentHeight + lineSpacing / 2 - 2);
+    EXPECT_EQ(widget->maximumHeight(), documentHeight + lineSpacing / 2 - 2);
+
+    const int lastHeight = widget->minimumHeight();
+    view.setAdjustHeightToContent(false);
+    view.setText("one\ntwo\nthree\nfour\nfive");
+    EXPECT_EQ(widget->minimumHeight(), lastHeight);
+    EXPECT_EQ(widget->maximumHeight(), lastHeight);
+    EXPECT_EQ(widget->verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
+}
+
+TEST(CKyUITextViewTest, TabMovesTheFocusToTheNextControl)
+{
+    Window window;
+    CKyUITextView view;
+    window.Hold(view);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window.window));
+    QTextEdit* widget = WidgetOf(view);
+    widget->setFocus();
+    QTRY_VERIFY(widget->hasFocus());
+
+    QTest::keyClicks(widget, "ab");
+    QTest::keyClick(widget, Qt::Key_Tab);
+    QTRY_VERIFY(window.after->hasFocus());
+    EXPECT_EQ(view.getContent(), "ab");
+}
+
+TEST(CKyUITextViewTest, FocusInAndOutAreSignalledAlsoWhenReadOnly)
+{
+    Window window;
+    CKyUITextView view;
+    view.setReadOnly(true);
+    window.Hold(view);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window.window));
+    QStringList log;
+    view.focusInEventSignal().connect([&log] { log.append("in"); });
+    view.focusOutEventSignal().connect([&log] { log.append("out"); });
+
+    QTest::keyClick(window.before, Qt::Key_Tab);
+    QTRY_VERIFY(WidgetOf(view)->hasFocus());
+    EXPECT_EQ(log, QStringList({"in"}));
+
+    QTest::keyClick(WidgetOf(view), Qt::Key_Tab);
+    QTRY_VERIFY(window.after->hasFocus());
+    EXPECT_EQ(log, QStringList({"in", "out"}));
+
+    view.blockSignals(true);
+    WidgetOf(view)->setFocus();
+    QTRY_VERIFY(WidgetOf(view)->hasFocus());
+    window.after->setFocus();
+    QTRY_VERIFY(window.after->hasFocus());
+    EXPECT_EQ(log, QStringList({"in", "out"}));
+}
+
+TEST(CKyUITextViewTest, PastedRichTextArrivesAsPlainText)
+{
+    Window window;
+    CKyUITextView view;
+    window.Hold(view);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window.window));
+    QTextEdit* widget = WidgetOf(view);
+    widget->setFocus();
+    QTRY_VERIFY(widget->hasFocus());
+
+    auto* mime = new QMimeData;
+    mime->setHtml("<b>bold</b>");
+    mime->setText("bold");
+    QGuiApplication::clipboard()->setMimeData(mime);
+    QTest::keyClick(widget, Qt::Key_V, Qt::ControlModifier);
+
+    EXPECT_EQ(view.getContent(), "bold");
+    QTextCursor cursor(widget->document());
+    cursor.setPosition(2);
+    EXPECT_NE(cursor.charFormat().fontWeight(), QFont::Bold);
+}
+
+TEST(CKyUITextViewTest, BlockedSignalsStillLetTheContentFollowTheWidget)
+{
+    CKyUITextView view;
+    int emitted = 0;
+    view.textChanged().connect([&emitted] { ++emitted; });
+
+    view.blockSignals(true);
+    view.setText("quiet");
+    QTest::keyClicks(WidgetOf(view), "!");
+    EXPECT_EQ(view.getContent(), WidgetOf(view)->toPlainText());
+    EXPECT_TRUE(view.getContent().contains("quiet"));
+    EXPECT_EQ(emitted, 0);
+
+    view.blockSignals(false);
+    view.addText("loud");
+    EXPECT_GE(emitted, 1);
+}
