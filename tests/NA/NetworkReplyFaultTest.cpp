@@ -2,6 +2,7 @@
 #include "NA/CKyNANetworkReply.h"
 #include "NA/CKyNANetworkRequest.h"
 
+#include "NA/ClosedPort.h"
 #include "NA/EventWait.h"
 #include "NA/HttpTestServer.h"
 #include "NA/ReplyRecorder.h"
@@ -9,7 +10,6 @@
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QPointer>
 #include <QtNetwork/QNetworkReply>
-#include <QtNetwork/QTcpServer>
 #include <QtTest/QSignalSpy>
 
 #include <gtest/gtest.h>
@@ -53,10 +53,8 @@ TEST_F(NetworkReplyFault, EachFaultGivesItsErrorThenFinishedBeforeTheTimeout)
     notHttp.body = "220 mail.example ESMTP ready\r\n";
     server.setRoute("/not-http", notHttp);
 
-    QTcpServer probe;
-    ASSERT_TRUE(probe.listen(QHostAddress::LocalHost, 0));
-    const QUrl refused(QStringLiteral("http://127.0.0.1:%1/").arg(probe.serverPort()));
-    probe.close();
+    ClosedPort refused;
+    ASSERT_TRUE(refused.isValid());
 
     const struct
     {
@@ -71,7 +69,7 @@ TEST_F(NetworkReplyFault, EachFaultGivesItsErrorThenFinishedBeforeTheTimeout)
         {"malformed status line", server.url(QStringLiteral("/malformed")),
          CKyNANetworkReply::RemoteHostClosedError},
         {"no HTTP at all", server.url(QStringLiteral("/not-http")), CKyNANetworkReply::RemoteHostClosedError},
-        {"connection refused", refused, CKyNANetworkReply::ConnectionRefusedError},
+        {"connection refused", refused.url(), CKyNANetworkReply::ConnectionRefusedError},
     };
     const int timeout = 10000;
     for (const auto& c : cases) {
