@@ -1,17 +1,24 @@
 #include "UI/CKyUIAction.h"
+#include "UI/CKyUICheckBox.h"
+#include "UI/CKyUIComboBox.h"
 #include "UI/CKyUIDialogButtonBox.h"
 #include "UI/CKyUIDockWidget.h"
 #include "UI/CKyUIEvent.h"
+#include "UI/CKyUIGroupBox.h"
 #include "UI/CKyUIHorizontalLayout.h"
 #include "UI/CKyUIImageView.h"
 #include "UI/CKyUILabel.h"
 #include "UI/CKyUIListBox.h"
 #include "UI/CKyUIMenu.h"
 #include "UI/CKyUIPushButton.h"
+#include "UI/CKyUIRadioButton.h"
+#include "UI/CKyUIRadioGroup.h"
 #include "UI/CKyUIScrollableArea.h"
 #include "UI/CKyUISignal.h"
 #include "UI/CKyUISlider.h"
 #include "UI/CKyUIStackedWidget.h"
+#include "UI/CKyUITextEdit.h"
+#include "UI/CKyUITextView.h"
 #include "UI/CKyUITimer.h"
 #include "UI/CKyUIVerticalLayout.h"
 #include "support/TestViews.h"
@@ -21,6 +28,7 @@
 #include <QtCore/QPointer>
 #include <QtTest/QTest>
 #include <QtWidgets/QBoxLayout>
+#include <QtWidgets/QComboBox>
 #include <QtWidgets/QGroupBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QScrollArea>
@@ -146,11 +154,15 @@ TEST(BadInput, ViewsIgnoreNullSelfAncestorsAndStrangers)
     column.focusOutEvent(nullptr);
 }
 
-TEST(BadInput, InsertPositionsOutsideALayoutAppend)
+TEST(BadInput, InsertPositionsOutsideALayoutOrGroupBoxAppend)
 {
     CKyUIHorizontalLayout row;
     CKyUIVerticalLayout column;
-    for (CKyUIBaseView* layout : {static_cast<CKyUIBaseView*>(&row), static_cast<CKyUIBaseView*>(&column)}) {
+    CKyUIGroupBox rowBox(CKyUIGroupBox::Horizontal, false);
+    CKyUIGroupBox columnBox(CKyUIGroupBox::Vertical, true);
+    for (CKyUIBaseView* layout :
+         {static_cast<CKyUIBaseView*>(&row), static_cast<CKyUIBaseView*>(&column),
+          static_cast<CKyUIBaseView*>(&rowBox), static_cast<CKyUIBaseView*>(&columnBox)}) {
         auto* first = new CKyUILabel;
         layout->addView(first);
         auto* beforeStart = new CKyUILabel;
@@ -440,4 +452,96 @@ TEST(BadInput, TimersAndButtonBoxesTakeAnyNumber)
                                                               CKyUIDialogButtonBox::Help)),
               nullptr);
     EXPECT_NE(box.button(CKyUIDialogButtonBox::Ok), nullptr);
+}
+
+TEST(BadInput, ComboBoxIndexesOutsideTheModelOrPastAClear)
+{
+    CKyUIComboBox combo;
+    auto* widget = qobject_cast<QComboBox*>(combo.getHandle());
+    int emissions = 0;
+    combo.currentIndexChanged().connect([&emissions](int) { ++emissions; });
+    combo.currentStringChanged().connect([&emissions](const QString&) { ++emissions; });
+    combo.addItem(QIcon(), "a", 1);
+    combo.addItem(QIcon(), "b", 2);
+    combo.setCurrentIndex(1);
+    ASSERT_EQ(emissions, 2);
+    combo.clear();
+
+    // Indexes that were valid before the clear, and ones that never were.
+    for (int index : {-1, 0, 1, 2, INT_MAX, INT_MIN}) {
+        SCOPED_TRACE(index);
+        combo.removeItem(index);
+        combo.setCurrentIndex(index);
+        combo.setItemData(index, 5);
+        combo.setItemText(index, "ignored");
+        EXPECT_TRUE(combo.itemText(index).isEmpty());
+        EXPECT_FALSE(combo.itemData(index).isValid());
+    }
+    EXPECT_EQ(emissions, 2);
+    EXPECT_EQ(combo.count(), 0);
+    EXPECT_EQ(widget->count(), 0);
+    // The current item is what was last set, list or no list.
+    EXPECT_EQ(combo.currentIndex(), 1);
+    EXPECT_EQ(combo.currentText(), "b");
+
+    // Insertions outside the list go to its nearest end, in the list's order,
+    // in the model and on screen alike.
+    combo.insertItem(INT_MIN, "first");
+    combo.insertItem(INT_MAX, QIcon(), "last");
+    combo.insertItems(INT_MAX, {"x", "y"});
+    combo.insertItems(-5, {"p", "q"});
+    const QStringList expected{"p", "q", "first", "last", "x", "y"};
+    ASSERT_EQ(combo.count(), expected.size());
+    ASSERT_EQ(widget->count(), expected.size());
+    for (int i = 0; i < expected.size(); ++i) {
+        EXPECT_EQ(combo.itemText(i), expected[i]);
+        EXPECT_EQ(widget->itemText(i), expected[i]);
+    }
+    combo.setValidator(nullptr);
+    combo.setMaxVisibleItems(-1);
+    combo.setIconSize(QSize(-1, -1));
+}
+
+TEST(BadInput, RadioGroupsAndInputControlsWithNothingToWorkOn)
+{
+    // A group outside any group box has no layout to put its buttons in.
+    CKyUIRadioGroup loose;
+    loose.addRadioButton(nullptr);
+    auto* stray = new CKyUIRadioButton;
+    loose.addRadioButton(stray);
+    EXPECT_EQ(stray->parent(), &loose);
+
+    // The same button twice, and a button taken from another group.
+    CKyUIGroupBox box(CKyUIGroupBox::Vertical, false);
+    auto* group = new CKyUIRadioGroup;
+    box.addView(group);
+    auto* button = new CKyUIRadioButton;
+    group->addRadioButton(button);
+    group->addRadioButton(button);
+    group->addRadioButton(stray);
+    EXPECT_EQ(stray->parent(), group);
+    EXPECT_EQ(group->children(), (QList<CKyUIObject*>{button, stray}));
+    button->setChecked(true);
+    stray->setChecked(true);
+    EXPECT_TRUE(button->isChecked());
+
+    // Width classes and input types that name nothing.
+    for (int size : {-1, 5, 99, INT_MIN, INT_MAX}) {
+        CKyUITextEdit edit{CKyUITextEdit::_Size(size)};
+        edit.setInputType(size);
+        edit.setText("still a field");
+        EXPECT_EQ(edit.text(), "still a field");
+    }
+    CKyUIGroupBox odd(CKyUIGroupBox::Orientation(INT_MIN), true);
+    odd.addView(nullptr);
+    odd.insertView(nullptr, -1);
+    CKyUITextView view;
+    view.setText(QString(5000, QLatin1Char('}')));
+    view.setText(QStringLiteral("replaced"));
+    view.addText(QString());
+    view.addHtmlText("<b><i>never closed");
+    CKyUICheckBox check;
+    check.setText(QString());
+    check.setChecked(true);
+    EXPECT_TRUE(check.isChecked());
 }
