@@ -367,6 +367,72 @@ TEST(SignalBase, ThrowingSlotPropagatesAfterCleanUpAndTheSignalStaysUsable)
     EXPECT_EQ(log, (Log{"never"}));
 }
 
+// A slot may destroy the signal that calls it (a client deleting the object
+// that owns it). Its own captures die with the signal, so such slots copy
+// what they need before and touch nothing afterwards.
+TEST(SignalBase, SlotDestroyingItsSignalEndsTheEmission)
+{
+    auto signal = std::make_unique<Signal<void()>>();
+    Log log;
+    signal->connect([&log] { log.push_back("a"); });
+    auto doomed = signal->connect([&log, &signal] {
+        log.push_back("b");
+        signal.reset();
+    });
+    signal->connect([&log] { log.push_back("c"); });
+    signal->emit();
+    EXPECT_EQ(signal, nullptr);
+    EXPECT_EQ(log, (Log{"a", "b"}));
+    EXPECT_FALSE(doomed.connected());
+}
+
+TEST(SignalBase, SignalDestroyedInANestedEmissionEndsEveryEmissionOfIt)
+{
+    for (const bool throwing : {false, true}) {
+        SCOPED_TRACE(throwing ? "then throwing" : "then returning");
+        auto signal = std::make_unique<Signal<void(int)>>();
+        Log log;
+        signal->connect([&log, &signal](int depth) {
+            log.push_back("a" + std::to_string(depth));
+            if (depth == 0)
+                signal->emit(1);
+        });
+        signal->connect([&log, &signal, throwing](int depth) {
+            log.push_back("b" + std::to_string(depth));
+            if (depth == 1) {
+                const bool thenThrow = throwing; // the capture dies with the signal
+                signal.reset();
+                if (thenThrow)
+                    throw std::runtime_error("after the signal died");
+            }
+        });
+        signal->connect([&log](int depth) { log.push_back("c" + std::to_string(depth)); });
+        if (throwing)
+            EXPECT_THROW(signal->emit(0), std::runtime_error);
+        else
+            signal->emit(0);
+        EXPECT_EQ(signal, nullptr);
+        EXPECT_EQ(log, (Log{"a0", "a1", "b1"}));
+    }
+}
+
+TEST(SignalBase, SlotDestroyingItsSignalAfterItsConnectsMovedTheArray)
+{
+    // The retired array, which the running callable lives in, goes with the
+    // signal, as does the new one.
+    auto signal = std::make_unique<Signal<void()>>();
+    Log log;
+    signal->connect([&log, &signal] {
+        for (int i = 0; i < 64; ++i)
+            signal->connect([&log] { log.push_back("late"); });
+        log.push_back("a");
+        signal.reset();
+    });
+    signal->connect([&log] { log.push_back("b"); });
+    signal->emit();
+    EXPECT_EQ(log, (Log{"a"}));
+}
+
 TEST(SignalBase, ConnectionOutlivingItsSignalRefersToNothing)
 {
     Signal<void()>::connection kept;
