@@ -84,3 +84,50 @@ TEST(WebSocketFault, DeletingAConnectedSocketWhileMessagesFlowReachesNothingFree
     EXPECT_EQ(log.entries, entries);
     EXPECT_EQ(log.messages, messages);
 }
+
+// A plug-in may delete the socket from inside one of the socket's own slots:
+// the toolkit socket is then still in the middle of reporting.
+TEST(WebSocketFault, DeletingTheSocketFromItsOwnSlotsReachesNothingFreed)
+{
+    WebSocketTestServer server;
+    ASSERT_TRUE(server.isListening());
+
+    for (const char* slot : {"textMessageReceived", "disconnected", "error"}) {
+        SCOPED_TRACE(slot);
+        auto* socket = new CKyNAWebSocket(QString(), CKyNAWebSocketProtocol::VersionLatest);
+        QPointer<QObject> toolkit = socket->getHandle();
+        bool connected = false;
+        bool deleted = false;
+        int laterMessages = 0;
+        socket->connected().connect([&connected] { connected = true; });
+        const auto deleteSocket = [socket, &deleted] {
+            bool* const done = &deleted;
+            delete socket;
+            *done = true;
+        };
+        if (QByteArray(slot) == "textMessageReceived") {
+            socket->textMessageReceived().connect([deleteSocket](const QString&) { deleteSocket(); });
+            socket->textMessageReceived().connect([&laterMessages](const QString&) { ++laterMessages; });
+        } else if (QByteArray(slot) == "disconnected") {
+            socket->disconnected().connect(deleteSocket);
+        } else {
+            socket->error().connect([deleteSocket](int) { deleteSocket(); });
+        }
+        socket->open(CKyNANetworkRequest(server.url()));
+        ASSERT_TRUE(waitUntil([&] { return connected && server.peer(); }));
+
+        // Several messages in one burst, so that the toolkit still has some to
+        // hand out after the first.
+        for (int i = 0; i < 20; ++i)
+            server.sendText(QStringLiteral("message"));
+        if (QByteArray(slot) != "textMessageReceived")
+            server.abort();
+        ASSERT_TRUE(waitUntil([&] { return deleted; }));
+        EXPECT_EQ(laterMessages, 0);
+        // Whatever the toolkit socket still had to do, it does without us.
+        ASSERT_TRUE(waitUntil([&] {
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            return toolkit.isNull();
+        }));
+    }
+}
