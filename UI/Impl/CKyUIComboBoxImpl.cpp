@@ -120,8 +120,13 @@ void CKyUIComboBoxImpl::SetCurrentIndex(int index)
         m_currentIndex = index;
         m_currentText = std::get<1>(m_items.at(index));
         const QString text = m_currentText;
+        const std::weak_ptr<const int> alive = Lifetime();
         currentIndexChanged.Emit(index);
+        if (alive.expired())
+            return;
         currentStringChanged.Emit(text);
+        if (alive.expired())
+            return;
     }
     // Also when unchanged: the user may have picked another entry on screen.
     SetCurrentIndexImpl(m_currentIndex);
@@ -165,8 +170,13 @@ void CKyUIComboBoxImpl::OnCurrentIndexChanged(int index)
     m_currentIndex = index;
     m_currentText = ItemText(index);
     const QString text = m_currentText;
+    const std::weak_ptr<const int> alive = Lifetime();
     activated.Emit(index);
+    if (alive.expired())
+        return;
     currentIndexChanged.Emit(index);
+    if (alive.expired())
+        return;
     currentStringChanged.Emit(text);
 }
 

@@ -56,8 +56,10 @@ void CKyUITextViewFrontend::OnEditContentChanged()
 {
     if (!impl)
         return;
+    // A slot may delete the view, and the implementation with it.
+    const std::weak_ptr<const int> alive = impl->Lifetime();
     impl->OnEditTextChanged(document()->toPlainText());
-    if (!impl || !impl->GetAdjustHeightToContent())
+    if (alive.expired() || !impl->GetAdjustHeightToContent())
         return;
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     const int documentHeight = static_cast<int>(document()->documentLayout()->documentSize().height());
