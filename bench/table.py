@@ -1,0 +1,151 @@
+#!/usr/bin/env python3
+"""One table from the JSON output of the benchmark programs of one run.
+
+    bench/table.py [--markdown] build-release/bench-results/*.json
+
+Each case keeps its best (lowest) figure over the repetitions: the CPU time,
+or the measured time for the cases that time themselves (manual_time), which
+is the steadiest figure on a machine shared with other work. A figure is given
+per item: per transfer, message, call or control where the case says so with
+its counter "per", per connect or disconnect for the signal cases that carry a
+count, else per run of the case (one emission, one dialog set-up).
+
+The ratio compares a case with its reference, measured in the same run: the
+case whose name has "floor" where this one names its implementation, or else
+the one with "qt". Rows that are references themselves show "ref". The wall
+time per item is the elapsed time; for the network cases with one transfer in
+flight it is the latency of a transfer.
+"""
+import json
+import re
+import sys
+
+SUFFIX = re.compile(r"/(iterations:\d+|repeats:\d+|min_time:[0-9.]+s?|process_time|real_time|manual_time)")
+UNIT_NS = {"ns": 1.0, "us": 1e3, "ms": 1e6, "s": 1e9}
+EXTRA_COUNTERS = ("sheet",)
+
+
+def load(paths):
+    cases = {}
+    order = []
+    for path in paths:
+        with open(path) as f:
+            runs = json.load(f)["benchmarks"]
+        for run in runs:
+            if run.get("run_type", "iteration") != "iteration":
+                continue
+            name = run.get("run_name", run["name"])
+            key = SUFFIX.sub("", name)
+            if key not in cases:
+                order.append(key)
+                cases[key] = {"time": None, "wall": None, "per": None, "failed": None, "extra": {}}
+            case = cases[key]
+            if run.get("error_occurred"):
+                case["failed"] = run.get("error_message", "failed")
+                continue
+            unit = UNIT_NS[run.get("time_unit", "ns")]
+            manual = "/manual_time" in name
+            time = (run["real_time"] if manual else run["cpu_time"]) * unit
+            wall = run["real_time"] * unit
+            case["time"] = time if case["time"] is None else min(case["time"], time)
+            case["wall"] = wall if case["wall"] is None else min(case["wall"], wall)
+            case["per"] = run.get("per", case["per"])
+            for counter in EXTRA_COUNTERS:
+                if counter in run:
+                    case["extra"][counter] = run[counter]
+    return cases, order
+
+
+def items_of(key, case):
+    if case["per"]:
+        return float(case["per"])
+    parts = key.split("/")
+    if parts[0] != "Emit" and parts[-1].isdigit():
+        return float(parts[-1])
+    return 1.0
+
+
+def reference_of(key, cases):
+    """The name of the reference case, the key itself when it is one, or None."""
+    parts = key.split("/")
+
+    def sibling(name):
+        for i, part in enumerate(parts):
+            candidate = "/".join(parts[:i] + [name] + parts[i + 1:])
+            if candidate != key and candidate in cases:
+                return candidate
+        return None
+
+    floor = sibling("floor")
+    if floor:
+        return floor
+    if "floor" in parts or "qt" in parts:
+        return key
+    return sibling("qt")
+
+
+def duration(ns):
+    if ns is None:
+        return "-"
+    for unit, scale in (("s", 1e9), ("ms", 1e6), ("us", 1e3)):
+        if ns >= scale:
+            return "%.3g %s" % (ns / scale, unit) if ns / scale < 100 else "%.0f %s" % (ns / scale, unit)
+    return "%.3g ns" % ns if ns < 100 else "%.0f ns" % ns
+
+
+def rows(cases, order):
+    for key in order:
+        case = cases[key]
+        if case["failed"] and case["time"] is None:
+            yield key, "failed: " + case["failed"], "", "", "", ""
+            continue
+        items = items_of(key, case)
+        per_item = case["time"] / items
+        reference = reference_of(key, cases)
+        ratio = ""
+        versus = ""
+        if reference == key:
+            ratio = "ref"
+        elif reference and cases[reference]["time"]:
+            ref_per_item = cases[reference]["time"] / items_of(reference, cases[reference])
+            ratio = "%.2fx" % (per_item / ref_per_item)
+            versus = "floor" if "floor" in reference.split("/") else "qt"
+        note = ", ".join("%s %d" % (k, v) for k, v in case["extra"].items())
+        yield key, duration(per_item), ratio, versus, duration(case["wall"] / items), note
+
+
+def main(argv):
+    markdown = "--markdown" in argv
+    paths = [a for a in argv if a != "--markdown"]
+    if not paths:
+        print(__doc__.strip())
+        return 2
+    cases, order = load(paths)
+    header = ("case", "CPU per item", "ratio", "vs", "wall per item", "note")
+    table = list(rows(cases, order))
+    if markdown:
+        print("| " + " | ".join(header) + " |")
+        print("|" + "|".join(["---", "---:", "---:", "---", "---:", "---"]) + "|")
+        for row in table:
+            print("| " + " | ".join(row) + " |")
+        return 0
+    widths = [max(len(str(r[i])) for r in table + [header]) for i in range(len(header))]
+    line = "%-*s  %*s  %*s  %-*s  %*s  %s"
+
+    def show(row):
+        print((line % (widths[0], row[0], widths[1], row[1], widths[2], row[2], widths[3], row[3],
+                       widths[4], row[4], row[5])).rstrip())
+
+    show(header)
+    group = None
+    for row in table:
+        top = row[0].split("/")[0]
+        if top != group:
+            print()
+            group = top
+        show(row)
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(sys.argv[1:]))
