@@ -16,6 +16,7 @@
 // the same style sheet and an empty QVBoxLayout. Whole: the set-up followed
 // by the 200 controls and the button box, against the same in Qt.
 #include "BenchHost.h"
+#include "Paired.h"
 
 #include "UI/CKyUICheckBox.h"
 #include "UI/CKyUIComboBox.h"
@@ -193,7 +194,7 @@ void FillWithQt(QVBoxLayout* column, bool ownSheets = false)
     }
 }
 
-void SetUpAndLayOutWithQt(bool withContent)
+void SetUpAndLayOutWithQt(bool withContent, bool ownSheets = false)
 {
     auto* window = new QDialog;
     window->setStyleSheet(BenchHost::ThemeSheet());
@@ -201,7 +202,7 @@ void SetUpAndLayOutWithQt(bool withContent)
     auto* column = new QVBoxLayout(window);
     column->setContentsMargins(0, 0, 0, 0);
     if (withContent) {
-        FillWithQt(column);
+        FillWithQt(column, ownSheets);
         auto* buttons =
             new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Help);
         QObject::connect(buttons, &QDialogButtonBox::accepted, window, &QDialog::accept);
@@ -216,89 +217,79 @@ void SetUpAndLayOutWithQt(bool withContent)
 // --- benchmarks --------------------------------------------------------------
 
 // A fresh dialog for every round (untimed), as SetupUI() gets it: themed, not
-// yet polished, so each widget is polished once, by the layout pass.
-std::unique_ptr<BenchHost::ThemedDialog> FreshHost(benchmark::State& state)
+// yet polished, so that each widget is polished once, by the layout pass.
+std::unique_ptr<BenchHost::ThemedDialog> g_host;
+
+void NewHost()
 {
-    state.PauseTiming();
-    auto host = std::make_unique<BenchHost::ThemedDialog>(false);
-    state.ResumeTiming();
-    return host;
+    g_host = std::make_unique<BenchHost::ThemedDialog>(false);
 }
 
-void DropHost(benchmark::State& state, std::unique_ptr<BenchHost::ThemedDialog>& host)
+void DropHost()
 {
-    state.PauseTiming();
-    host.reset();
+    g_host.reset();
     BenchHost::FlushPostedEvents();
-    state.ResumeTiming();
 }
 
-void ContentCommonUI(benchmark::State& state)
+void ContentWithLibrary()
 {
-    for (auto _ : state) {
-        auto host = FreshHost(state);
-        auto* root = new CKyUIVerticalLayout;
-        host->layout()->addWidget(qobject_cast<QWidget*>(root->getHandle()));
-        FillWithLibrary(root);
-        host->dialog()->adjustSize();
-        delete root;
-        BenchHost::FlushPostedEvents();
-        DropHost(state, host);
-    }
-    state.counters["per"] = kControls;
+    auto* root = new CKyUIVerticalLayout;
+    g_host->layout()->addWidget(qobject_cast<QWidget*>(root->getHandle()));
+    FillWithLibrary(root);
+    g_host->dialog()->adjustSize();
+    delete root;
+    BenchHost::FlushPostedEvents();
 }
 
-void ContentQt(benchmark::State& state, bool ownSheets)
+void ContentWithQt(bool ownSheets)
 {
-    for (auto _ : state) {
-        auto host = FreshHost(state);
-        auto* page = new QWidget;
-        auto* column = new QVBoxLayout(page);
-        column->setContentsMargins(0, 0, 0, 0);
-        host->layout()->addWidget(page);
-        FillWithQt(column, ownSheets);
-        host->dialog()->adjustSize();
-        delete page;
-        BenchHost::FlushPostedEvents();
-        DropHost(state, host);
-    }
-    state.counters["per"] = kControls;
+    auto* page = new QWidget;
+    auto* column = new QVBoxLayout(page);
+    column->setContentsMargins(0, 0, 0, 0);
+    g_host->layout()->addWidget(page);
+    FillWithQt(column, ownSheets);
+    g_host->dialog()->adjustSize();
+    delete page;
+    BenchHost::FlushPostedEvents();
 }
 
-void SetupCommonUI(benchmark::State& state)
+void Content(benchmark::State& state)
 {
-    for (auto _ : state)
-        SetUpAndLayOutWithLibrary(false);
+    Paired::Compare(state, Paired::Clock::Thread, 12, 1,
+                    {{"commonui", ContentWithLibrary, NewHost, DropHost},
+                     {"qt", [] { ContentWithQt(false); }, NewHost, DropHost},
+                     {"qt_with_empty_rules", [] { ContentWithQt(true); }, NewHost, DropHost}},
+                    "qt");
 }
 
-void SetupQt(benchmark::State& state)
+constexpr int kSetupsPerRound = 20;
+
+void Setup(benchmark::State& state)
 {
-    for (auto _ : state)
-        SetUpAndLayOutWithQt(false);
+    Paired::Compare(state, Paired::Clock::Thread, 30, kSetupsPerRound,
+                    {{"commonui",
+                      [] {
+                          for (int i = 0; i < kSetupsPerRound; ++i)
+                              SetUpAndLayOutWithLibrary(false);
+                      }},
+                     {"qt",
+                      [] {
+                          for (int i = 0; i < kSetupsPerRound; ++i)
+                              SetUpAndLayOutWithQt(false);
+                      }}},
+                    "qt");
 }
 
-void WholeCommonUI(benchmark::State& state)
+void Whole(benchmark::State& state)
 {
-    for (auto _ : state)
-        SetUpAndLayOutWithLibrary(true);
-    state.counters["per"] = kControls;
-}
-
-void WholeQt(benchmark::State& state)
-{
-    for (auto _ : state)
-        SetUpAndLayOutWithQt(true);
-    state.counters["per"] = kControls;
+    Paired::Compare(
+        state, Paired::Clock::Thread, 12, 1,
+        {{"commonui", [] { SetUpAndLayOutWithLibrary(true); }}, {"qt", [] { SetUpAndLayOutWithQt(true); }}},
+        "qt");
 }
 
 } // namespace
 
-BENCHMARK(ContentCommonUI)->Name("Dialog/content200/commonui")->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(ContentQt, plain, false)->Name("Dialog/content200/qt")->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(ContentQt, sheets, true)
-    ->Name("Dialog/content200/qt_with_empty_rules")
-    ->Unit(benchmark::kMillisecond);
-BENCHMARK(SetupCommonUI)->Name("Dialog/setup/commonui")->Unit(benchmark::kMicrosecond);
-BENCHMARK(SetupQt)->Name("Dialog/setup/qt")->Unit(benchmark::kMicrosecond);
-BENCHMARK(WholeCommonUI)->Name("Dialog/whole200/commonui")->Unit(benchmark::kMillisecond);
-BENCHMARK(WholeQt)->Name("Dialog/whole200/qt")->Unit(benchmark::kMillisecond);
+BENCHMARK(Content)->Name("Dialog/content200")->Iterations(1)->Repetitions(1);
+BENCHMARK(Setup)->Name("Dialog/setup")->Iterations(1)->Repetitions(1);
+BENCHMARK(Whole)->Name("Dialog/whole200")->Iterations(1)->Repetitions(1);

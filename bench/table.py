@@ -12,9 +12,12 @@ count, else per run of the case (one emission, one dialog set-up).
 
 The ratio compares a case with its reference, measured in the same run: the
 case whose name has "floor" where this one names its implementation, or else
-the one with "qt". Rows that are references themselves show "ref". The wall
-time per item is the elapsed time; for the network cases with one transfer in
-flight it is the latency of a transfer.
+the one with "qt". For the cases measured side by side in alternating rounds
+(bench/Paired.h) it is the median over the rounds of the two sides' ratio (the
+median of those medians when the case was repeated), and the figures are the
+best round's. Rows that are references themselves show
+"ref". The wall time per item is the elapsed time; for the network cases with
+one transfer in flight it is the latency of a transfer.
 """
 import json
 import re
@@ -25,30 +28,61 @@ UNIT_NS = {"ns": 1.0, "us": 1e3, "ms": 1e6, "s": 1e9}
 EXTRA_COUNTERS = ("sheet",)
 
 
+def new_case():
+    return {"time": None, "wall": None, "per": None, "failed": None, "extra": {},
+            "ratios": [], "paired_ref": False}
+
+
+def keep_best(case, time, wall):
+    case["time"] = time if case["time"] is None else min(case["time"], time)
+    case["wall"] = wall if case["wall"] is None else min(case["wall"], wall)
+
+
 def load(paths):
     cases = {}
     order = []
+
+    def case_of(key):
+        if key not in cases:
+            order.append(key)
+            cases[key] = new_case()
+        return cases[key]
+
     for path in paths:
         with open(path) as f:
             runs = json.load(f)["benchmarks"]
+        runs = [r for r in runs if r.get("run_type", "iteration") == "iteration"]
+        # Repetitions may run interleaved; list the cases in their programs' order.
+        runs.sort(key=lambda r: (r.get("family_index", 0), r.get("per_family_instance_index", 0)))
         for run in runs:
-            if run.get("run_type", "iteration") != "iteration":
-                continue
             name = run.get("run_name", run["name"])
             key = SUFFIX.sub("", name)
-            if key not in cases:
-                order.append(key)
-                cases[key] = {"time": None, "wall": None, "per": None, "failed": None, "extra": {}}
-            case = cases[key]
+            sides = [c[: -len(".cpu")] for c in run if c.endswith(".cpu")]
+            if sides:
+                # Sides measured in alternating rounds (bench/Paired.h): figures
+                # per item already, with the ratio of the rounds' median.
+                for side in sides:
+                    case = case_of(key + "/" + side)
+                    if run.get("error_occurred"):
+                        case["failed"] = run.get("error_message", "failed")
+                        continue
+                    keep_best(case, run[side + ".cpu"], run[side + ".wall"])
+                    case["per"] = 1
+                    if side + ".ratio" in run:
+                        case["ratios"].append(run[side + ".ratio"])
+                    else:
+                        case["paired_ref"] = True
+                    for counter in EXTRA_COUNTERS:
+                        if side + "." + counter in run:
+                            case["extra"][counter] = run[side + "." + counter]
+                continue
+            case = case_of(key)
             if run.get("error_occurred"):
                 case["failed"] = run.get("error_message", "failed")
                 continue
             unit = UNIT_NS[run.get("time_unit", "ns")]
             manual = "/manual_time" in name
-            time = (run["real_time"] if manual else run["cpu_time"]) * unit
-            wall = run["real_time"] * unit
-            case["time"] = time if case["time"] is None else min(case["time"], time)
-            case["wall"] = wall if case["wall"] is None else min(case["wall"], wall)
+            keep_best(case, (run["real_time"] if manual else run["cpu_time"]) * unit, run["real_time"] * unit)
             case["per"] = run.get("per", case["per"])
             for counter in EXTRA_COUNTERS:
                 if counter in run:
@@ -104,7 +138,11 @@ def rows(cases, order):
         reference = reference_of(key, cases)
         ratio = ""
         versus = ""
-        if reference == key:
+        if case["ratios"]:
+            ratios = sorted(case["ratios"])
+            ratio = "%.2fx" % ratios[len(ratios) // 2]
+            versus = "qt"
+        elif case["paired_ref"] or reference == key:
             ratio = "ref"
         elif reference and cases[reference]["time"]:
             ref_per_item = cases[reference]["time"] / items_of(reference, cases[reference])
