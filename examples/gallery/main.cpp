@@ -1,0 +1,58 @@
+// The gallery of every control. With a display it runs modally until the user
+// closes it. Without one it runs on the offscreen platform, saves a picture of
+// every page to the folder given as the first argument (default: screenshots)
+// and prints the pictures' paths.
+
+#include "GalleryDialog.h"
+#include "GalleryRendering.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
+#include <QtWidgets/QApplication>
+
+#include <cstdio>
+
+int main(int argc, char** argv)
+{
+    const bool headless =
+        qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+    if (headless)
+        GalleryRendering::UseOffscreenPlatform();
+    QApplication application(argc, argv);
+
+    QString problem;
+    if (!GalleryRendering::UseStableLook(&problem)) {
+        std::fprintf(stderr, "gallery: %s\n", qPrintable(problem));
+        if (headless)
+            return 1;
+    }
+
+    if (!headless) {
+        GalleryDialog dialog;
+        const int result = dialog.exec();
+        std::printf("gallery: the dialog ended with result %d (%s)\n", result,
+                    result == 1 ? "accepted" : "rejected");
+        return 0;
+    }
+
+    const QDir folder(
+        QFileInfo(argc > 1 ? QString::fromLocal8Bit(argv[1]) : "screenshots").absoluteFilePath());
+    if (!QDir().mkpath(folder.path())) {
+        std::fprintf(stderr, "gallery: cannot create %s\n", qPrintable(folder.path()));
+        return 1;
+    }
+    const QList<GalleryRendering::RenderedPage> pages = GalleryRendering::RenderPages();
+    if (pages.isEmpty()) {
+        std::fprintf(stderr, "gallery: no page was rendered\n");
+        return 1;
+    }
+    for (const GalleryRendering::RenderedPage& page : pages) {
+        const QString path = folder.filePath(page.fileName);
+        if (!page.image.save(path, "PNG")) {
+            std::fprintf(stderr, "gallery: could not save %s\n", qPrintable(path));
+            return 1;
+        }
+        std::printf("gallery: page \"%s\" saved to %s\n", qPrintable(page.title), qPrintable(path));
+    }
+    return 0;
+}

@@ -1,0 +1,14 @@
+#include "GalleryRendering.h"
+
+#include <gtest/gtest.h>
+
+#include <QtWidgets/QApplication>
+
+// The pictures are made on the offscreen platform, so the comparison is too.
+int main(int argc, char** argv)
+{
+    GalleryRendering::UseOffscreenPlatform();
+    ::testing::InitGoogleTest(&argc, argv);
+    QApplication application(argc, argv);
+    return RUN_ALL_TESTS();
+}

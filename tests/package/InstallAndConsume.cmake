@@ -1,0 +1,89 @@
+# Installs the built library into a fresh prefix, then builds the out-of-tree
+# client examples/consumer against it with find_package and runs it offscreen;
+# last, checks the pkg-config file by compiling the same client with its flags.
+#
+# cmake -DBUILD_DIR=<library build> -DSOURCE_DIR=<library source>
+#       -DWORK_DIR=<scratch> [-DGENERATOR=Ninja] [-DLAUNCHER=ccache]
+#       [-DCXX=c++ -DPKG_CONFIG=pkg-config]
+#       -P InstallAndConsume.cmake
+
+foreach(variable BUILD_DIR SOURCE_DIR WORK_DIR)
+    if(NOT ${variable})
+        message(FATAL_ERROR "install test: ${variable} is not set")
+    endif()
+endforeach()
+
+set(prefix ${WORK_DIR}/prefix)
+set(client_build ${WORK_DIR}/consumer-build)
+file(REMOVE_RECURSE ${WORK_DIR})
+file(MAKE_DIRECTORY ${WORK_DIR})
+
+function(step what)
+    execute_process(COMMAND ${ARGN} RESULT_VARIABLE status OUTPUT_VARIABLE out ERROR_VARIABLE err)
+    if(NOT status EQUAL 0)
+        message(FATAL_ERROR "install test: ${what} failed (${status})\n${out}\n${err}")
+    endif()
+    message(STATUS "install test: ${what}: ok")
+    set(step_output "${out}" PARENT_SCOPE)
+endfunction()
+
+step("cmake --install into ${prefix}"
+    ${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${prefix})
+
+foreach(installed
+        include/CommonUI/UI/CKyUIDialog.h
+        include/CommonUI/NA/CKyNANetworkAccessManager.h
+        include/CommonUI/UI/slimsig/detail/signal_base
+        include/CommonUI/CommonUI.h
+        include/CommonUI/commonui_export.h
+        include/CommonUI/KyHostKernel.h)
+    if(NOT EXISTS ${prefix}/${installed})
+        message(FATAL_ERROR "install test: ${installed} was not installed")
+    endif()
+endforeach()
+file(GLOB_RECURSE config_files ${prefix}/*/CommonUIConfig.cmake ${prefix}/*/CommonUIConfigVersion.cmake
+    ${prefix}/*/commonui.pc)
+list(LENGTH config_files config_count)
+if(NOT config_count EQUAL 3)
+    message(FATAL_ERROR "install test: package files missing; found: ${config_files}")
+endif()
+
+set(generator_args)
+if(GENERATOR)
+    set(generator_args -G ${GENERATOR})
+endif()
+set(launcher_args)
+if(LAUNCHER)
+    set(launcher_args -DCMAKE_CXX_COMPILER_LAUNCHER=${LAUNCHER})
+endif()
+step("configure examples/consumer with find_package(CommonUI)"
+    ${CMAKE_COMMAND} -S ${SOURCE_DIR}/examples/consumer -B ${client_build} ${generator_args}
+    -DCMAKE_BUILD_TYPE=Release -DCMAKE_PREFIX_PATH=${prefix} ${launcher_args})
+step("build examples/consumer" ${CMAKE_COMMAND} --build ${client_build})
+step("run the consumer offscreen"
+    ${CMAKE_COMMAND} -E env --unset=DISPLAY --unset=WAYLAND_DISPLAY QT_QPA_PLATFORM=offscreen
+    ${client_build}/consumer)
+message(STATUS "${step_output}")
+
+# The consumer must have taken the installed library, not the build tree's.
+file(GET_RUNTIME_DEPENDENCIES EXECUTABLES ${client_build}/consumer
+    RESOLVED_DEPENDENCIES_VAR resolved
+    PRE_INCLUDE_REGEXES "libCommonUI|libKyHostKernel" PRE_EXCLUDE_REGEXES ".*")
+foreach(library ${resolved})
+    if(NOT library MATCHES "^${prefix}/")
+        message(FATAL_ERROR "install test: the consumer loads ${library}, outside ${prefix}")
+    endif()
+endforeach()
+
+if(PKG_CONFIG AND CXX)
+    file(GLOB_RECURSE pc_file ${prefix}/*/commonui.pc)
+    get_filename_component(pc_dir ${pc_file} DIRECTORY)
+    get_filename_component(lib_dir ${pc_dir} DIRECTORY)
+    set(ENV{PKG_CONFIG_PATH} "${pc_dir}")
+    step("pkg-config --cflags --libs commonui" ${PKG_CONFIG} --cflags --libs commonui)
+    string(STRIP "${step_output}" flags)
+    separate_arguments(flags UNIX_COMMAND "${flags}")
+    step("compile examples/consumer with the pkg-config flags"
+        ${CXX} -std=c++17 -fPIC ${SOURCE_DIR}/examples/consumer/main.cpp ${flags}
+        -Wl,-rpath,${lib_dir} -o ${WORK_DIR}/consumer-pkgconfig)
+endif()
