@@ -22,9 +22,11 @@
 #include <chrono>
 #include <cstdint>
 #include <cstdlib>
+#include <cstring>
 #include <functional>
 #include <memory>
 #include <new>
+#include <thread>
 #include <vector>
 
 namespace
@@ -492,4 +494,24 @@ BENCHMARK(DisconnectHalfInsideSignalBase)
     ->Arg(1000)
     ->UseManualTime();
 
-BENCHMARK_MAIN();
+// --threaded runs the cases in a process that has started a thread, as the
+// host application has: reference counts (the connections' weak references
+// among them) are then atomic operations; in a process that never started a
+// thread the standard library keeps them plain.
+int main(int argc, char** argv)
+{
+    for (int i = 1; i < argc; ++i) {
+        if (std::strcmp(argv[i], "--threaded") == 0) {
+            std::thread([] {}).join();
+            std::copy(argv + i + 1, argv + argc + 1, argv + i);
+            --argc;
+            break;
+        }
+    }
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 1;
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}

@@ -139,6 +139,35 @@ TEST_F(NetworkReply, BlockedSignalsStayQuietButTheFinishIsRecorded)
     EXPECT_EQ(reply->readAll(), QByteArray("quiet"));
 }
 
+// A plug-in may delete the reply from inside the reply's own finished slot;
+// the signals die with it, so the slot keeps nothing it needs in its captures.
+TEST_F(NetworkReply, DeletingTheReplyInsideItsFinishedSlotEndsTheEmission)
+{
+    Route route;
+    route.body = "done";
+    server.setRoute("/", route);
+
+    CKyNANetworkReply* reply = manager.get(request);
+    QPointer<QObject> toolkit = reply->getHandle();
+    ASSERT_TRUE(toolkit);
+    QByteArray body;
+    bool deleted = false;
+    int laterSlots = 0;
+    reply->finished().connect([reply, &body, &deleted] {
+        body = reply->readAll();
+        bool* const done = &deleted;
+        delete reply;
+        *done = true;
+    });
+    reply->finished().connect([&laterSlots] { ++laterSlots; });
+
+    ASSERT_TRUE(waitUntil([&] { return deleted; }));
+    EXPECT_EQ(body, QByteArray("done"));
+    EXPECT_EQ(laterSlots, 0);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(toolkit.isNull());
+}
+
 // The pairing rule on a pair list of our own, handed to the finish handler.
 TEST(NetworkReplyHeaders, DistinctNameIndexIsAppliedToTheFullPairList)
 {

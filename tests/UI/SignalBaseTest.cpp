@@ -144,6 +144,102 @@ TEST(SignalBase, SlotKeepsItsCapturesWhileItsConnectsMoveTheArray)
     current = nullptr;
 }
 
+TEST(SignalBase, SlotRunningInTwoEmissionsStaysRunningUntilItsOuterRunEnds)
+{
+    // The inner run ends first; the outer one, still running, then connects
+    // enough slots to move the array and reads its captures afterwards.
+    static Signal<void(int)>* current = nullptr;
+    Signal<void(int)> signal;
+    current = &signal;
+    std::vector<long> seen;
+    const long tag = 70;
+    signal.connect([&seen, tag](int depth) {
+        if (depth == 0) {
+            current->emit(1);
+            EXPECT_TRUE(current->pending_slots()[0].running);
+            for (int i = 0; i < 64; ++i)
+                current->connect([](int) {});
+        }
+        seen.push_back(tag + depth);
+    });
+    signal.emit(0);
+    EXPECT_EQ(seen, (std::vector<long>{71, 70}));
+    expectSettled(signal);
+    signal.emit(1);
+    EXPECT_EQ(seen, (std::vector<long>{71, 70, 71}));
+    EXPECT_EQ(signal.slot_count(), 65u);
+    current = nullptr;
+}
+
+TEST(SignalBase, SlotKeepsWhatItChangedInItselfWhileItsConnectsMovedTheArray)
+{
+    static Signal<void()>* current = nullptr;
+    Signal<void()> signal;
+    current = &signal;
+    std::vector<int> seen;
+    signal.connect([&seen, calls = 0]() mutable {
+        if (++calls == 1) {
+            for (int i = 0; i < 64; ++i)
+                current->connect([] {});
+        }
+        seen.push_back(++calls);
+    });
+    signal.emit();
+    signal.emit();
+    EXPECT_EQ(seen, (std::vector<int>{2, 4}));
+    current = nullptr;
+}
+
+// A capture whose copy fails on demand.
+struct CopyMayFail {
+    static bool fail;
+    CopyMayFail() = default;
+    CopyMayFail(const CopyMayFail&)
+    {
+        if (fail)
+            throw std::runtime_error("copy failed");
+    }
+    CopyMayFail& operator=(const CopyMayFail&) = default;
+};
+bool CopyMayFail::fail = false;
+
+TEST(SignalBase, ConnectThatCannotCopyARunningSlotFailsAndLosesNothing)
+{
+    Signal<void()> signal;
+    Log log;
+    int runs = 0;
+    int late = 0;
+    std::string failure;
+    signal.connect([&] { log.push_back("a"); });
+    signal.connect([&, capture = CopyMayFail()] {
+        static_cast<void>(capture);
+        log.push_back("b");
+        if (++runs > 1)
+            return;
+        // Fills the array; the connect that must move it copies this running
+        // slot, and that copy fails.
+        CopyMayFail::fail = true;
+        try {
+            for (; late < 1000; ++late)
+                signal.connect([&] { log.push_back("late"); });
+        } catch (const std::runtime_error& error) {
+            failure = error.what();
+        }
+        CopyMayFail::fail = false;
+    });
+    signal.connect([&] { log.push_back("c"); });
+    signal.emit();
+    EXPECT_EQ(failure, "copy failed");
+    EXPECT_EQ(log, (Log{"a", "b", "c"}));
+    EXPECT_EQ(signal.slot_count(), 3u + static_cast<unsigned>(late));
+    expectSettled(signal);
+    log.clear();
+    signal.emit();
+    Log expected{"a", "b", "c"};
+    expected.resize(expected.size() + static_cast<std::size_t>(late), "late");
+    EXPECT_EQ(log, expected);
+}
+
 TEST(SignalBase, SlotDisconnectingALaterSlotSkipsItAndCompactsAfterwards)
 {
     Signal<void()> signal;
@@ -269,6 +365,72 @@ TEST(SignalBase, ThrowingSlotPropagatesAfterCleanUpAndTheSignalStaysUsable)
     log.clear();
     signal.emit();
     EXPECT_EQ(log, (Log{"never"}));
+}
+
+// A slot may destroy the signal that calls it (a client deleting the object
+// that owns it). Its own captures die with the signal, so such slots copy
+// what they need before and touch nothing afterwards.
+TEST(SignalBase, SlotDestroyingItsSignalEndsTheEmission)
+{
+    auto signal = std::make_unique<Signal<void()>>();
+    Log log;
+    signal->connect([&log] { log.push_back("a"); });
+    auto doomed = signal->connect([&log, &signal] {
+        log.push_back("b");
+        signal.reset();
+    });
+    signal->connect([&log] { log.push_back("c"); });
+    signal->emit();
+    EXPECT_EQ(signal, nullptr);
+    EXPECT_EQ(log, (Log{"a", "b"}));
+    EXPECT_FALSE(doomed.connected());
+}
+
+TEST(SignalBase, SignalDestroyedInANestedEmissionEndsEveryEmissionOfIt)
+{
+    for (const bool throwing : {false, true}) {
+        SCOPED_TRACE(throwing ? "then throwing" : "then returning");
+        auto signal = std::make_unique<Signal<void(int)>>();
+        Log log;
+        signal->connect([&log, &signal](int depth) {
+            log.push_back("a" + std::to_string(depth));
+            if (depth == 0)
+                signal->emit(1);
+        });
+        signal->connect([&log, &signal, throwing](int depth) {
+            log.push_back("b" + std::to_string(depth));
+            if (depth == 1) {
+                const bool thenThrow = throwing; // the capture dies with the signal
+                signal.reset();
+                if (thenThrow)
+                    throw std::runtime_error("after the signal died");
+            }
+        });
+        signal->connect([&log](int depth) { log.push_back("c" + std::to_string(depth)); });
+        if (throwing)
+            EXPECT_THROW(signal->emit(0), std::runtime_error);
+        else
+            signal->emit(0);
+        EXPECT_EQ(signal, nullptr);
+        EXPECT_EQ(log, (Log{"a0", "a1", "b1"}));
+    }
+}
+
+TEST(SignalBase, SlotDestroyingItsSignalAfterItsConnectsMovedTheArray)
+{
+    // The retired array, which the running callable lives in, goes with the
+    // signal, as does the new one.
+    auto signal = std::make_unique<Signal<void()>>();
+    Log log;
+    signal->connect([&log, &signal] {
+        for (int i = 0; i < 64; ++i)
+            signal->connect([&log] { log.push_back("late"); });
+        log.push_back("a");
+        signal.reset();
+    });
+    signal->connect([&log] { log.push_back("b"); });
+    signal->emit();
+    EXPECT_EQ(log, (Log{"a"}));
 }
 
 TEST(SignalBase, ConnectionOutlivingItsSignalRefersToNothing)
