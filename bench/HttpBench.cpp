@@ -3,7 +3,7 @@
 // QNetworkAccessManager, with 1 and 6 transfers in flight. The figure is the
 // CPU time of this whole process (QNetworkAccessManager works in a thread of
 // its own) per transfer; the wall time per transfer is the latency with one in
-// flight. The two clients take turns in 20 rounds of 1,000 transfers each,
+// flight. The two clients take turns in 100 rounds of 200 transfers each,
 // each client keeping its manager (and so its connections) from round to
 // round; the whole is repeated three times.
 //
@@ -155,7 +155,7 @@ template <class Client> bool Run(Client& client, int total, int inflight)
     return !stalled;
 }
 
-constexpr int kRounds = 20;
+constexpr int kRounds = 100;
 
 void Transfers(benchmark::State& state, bool post)
 {
