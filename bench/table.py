@@ -25,7 +25,7 @@ import sys
 
 SUFFIX = re.compile(r"/(iterations:\d+|repeats:\d+|min_time:[0-9.]+s?|process_time|real_time|manual_time)")
 UNIT_NS = {"ns": 1.0, "us": 1e3, "ms": 1e6, "s": 1e9}
-EXTRA_COUNTERS = ("sheet",)
+EXTRA_COUNTERS = ("sheet", "allocs")
 
 
 def new_case():
@@ -148,7 +148,7 @@ def rows(cases, order):
             ref_per_item = cases[reference]["time"] / items_of(reference, cases[reference])
             ratio = "%.2fx" % (per_item / ref_per_item)
             versus = "floor" if "floor" in reference.split("/") else "qt"
-        note = ", ".join("%s %d" % (k, v) for k, v in case["extra"].items())
+        note = ", ".join("%s %g" % (k, v) for k, v in case["extra"].items())
         yield key, duration(per_item), ratio, versus, duration(case["wall"] / items), note
 
 
