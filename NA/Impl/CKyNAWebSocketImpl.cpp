@@ -23,6 +23,21 @@ QWebSocket* toolkitSocket(CKyUIObject* owner)
     return qobject_cast<QWebSocket*>(owner->getHandle());
 }
 
+// Counts one report of the toolkit socket for as long as it is under way.
+class Reporting
+{
+public:
+    explicit Reporting(std::shared_ptr<int> count)
+        : m_count(std::move(count))
+    {
+        ++*m_count;
+    }
+    ~Reporting() { --*m_count; }
+
+private:
+    const std::shared_ptr<int> m_count;
+};
+
 } // namespace
 
 CKyNAWebSocketImpl::CKyNAWebSocketImpl(CKyNAWebSocket* owner, const QString& origin,
@@ -55,21 +70,25 @@ void CKyNAWebSocketImpl::close(CKyNAWebSocketProtocol::CloseCode code, const QSt
 
 void CKyNAWebSocketImpl::OnConnected()
 {
+    const Reporting reporting(m_reporting);
     connectedSignal.Emit();
 }
 
 void CKyNAWebSocketImpl::OnError(int error)
 {
+    const Reporting reporting(m_reporting);
     errorSignal.Emit(error);
 }
 
 void CKyNAWebSocketImpl::OnDisconnected()
 {
+    const Reporting reporting(m_reporting);
     disconnectedSignal.Emit();
 }
 
 void CKyNAWebSocketImpl::OnTextMessageReceived(const QString& message)
 {
+    const Reporting reporting(m_reporting);
     textMessageReceivedSignal.Emit(message);
 }
 
@@ -78,14 +97,14 @@ void CKyNAWebSocketImpl::CreateWebSocketImpl(const QString& origin, CKyNAWebSock
     auto* socket = new QWebSocket(origin, QWebSocketProtocol::Version(version), nullptr);
     owner()->setHandle(socket);
 
-    QObject::connect(
+    m_connections << QObject::connect(
         socket, &QWebSocket::connected, socket, [this] { OnConnected(); }, Qt::DirectConnection);
-    QObject::connect(
+    m_connections << QObject::connect(
         socket, QOverload<QAbstractSocket::SocketError>::of(&QWebSocket::error), socket,
         [this](QAbstractSocket::SocketError error) { OnError(int(error)); }, Qt::DirectConnection);
-    QObject::connect(
+    m_connections << QObject::connect(
         socket, &QWebSocket::disconnected, socket, [this] { OnDisconnected(); }, Qt::DirectConnection);
-    QObject::connect(
+    m_connections << QObject::connect(
         socket, &QWebSocket::textMessageReceived, socket,
         [this](const QString& message) { OnTextMessageReceived(message); }, Qt::DirectConnection);
 }
@@ -95,8 +114,17 @@ void CKyNAWebSocketImpl::DestroyWebSocketImpl()
     QObject* socket = owner()->getHandle();
     if (!socket)
         return;
-    delete socket;
     owner()->setHandle(nullptr);
+    if (*m_reporting == 0) {
+        delete socket;
+        return;
+    }
+    // Destroyed from a slot of one of the socket's own reports: the toolkit
+    // socket carries on with its work once the slot returns, so it cannot go
+    // now. It is cut off from us and goes on the next pass of the event loop.
+    for (const QMetaObject::Connection& connection : qAsConst(m_connections))
+        QObject::disconnect(connection);
+    socket->deleteLater();
 }
 
 void CKyNAWebSocketImpl::OpenImpl(const CKyNANetworkRequest& request)

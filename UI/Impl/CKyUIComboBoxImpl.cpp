@@ -51,6 +51,9 @@ void CKyUIComboBoxImpl::InsertItem(int index, const QIcon& icon, const QString& 
 
 void CKyUIComboBoxImpl::InsertItems(int index, const QStringList& texts)
 {
+    // Where the first one goes anyway; counting on from a position far past
+    // the end could overflow.
+    index = InsertPosition(index);
     for (const QString& text : texts)
         InsertItem(index++, text, QVariant());
 }

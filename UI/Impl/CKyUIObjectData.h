@@ -1,20 +1,24 @@
 #pragma once
 
 #include <QtCore/QList>
+#include <QtCore/QObject>
+#include <QtCore/QPointer>
 #include <QtCore/QString>
 #include <QtCore/QVariant>
 
 #include <map>
 #include <string>
 
-class QObject;
 class CKyUIObject;
 
 // The state of a public object; the public object itself holds only pointers.
 class CKyUIObjectData
 {
 public:
-    QObject* handle = nullptr; // not owned
+    // Not owned. Tracked: the toolkit may delete the object while this one
+    // lives (a removed view's widget goes with its former container), and the
+    // handle then reads null instead of dangling.
+    QPointer<QObject> handle;
     QString objectName;
     bool signalsBlocked = false;
     CKyUIObject* sender = nullptr; // meaningful only while an emit scope is active

@@ -8,7 +8,11 @@ CKyUIPushButtonImpl::CKyUIPushButtonImpl(CKyUIPushButton* owner)
     , m_button(owner)
 {}
 
-CKyUIPushButtonImpl::~CKyUIPushButtonImpl() = default;
+CKyUIPushButtonImpl::~CKyUIPushButtonImpl()
+{
+    // The widget is deleted later and keeps its pointer to us until then.
+    DisconnectFrontendImpl();
+}
 
 QString CKyUIPushButtonImpl::GetFrontendClassName()
 {

@@ -36,6 +36,9 @@ public:
     void SetBoldTextImpl(bool bold);
     void SetToolTipImpl(const QString& toolTip);
     void SetCheckableImpl(bool checkable);
+    // Cuts the widget's own connections to its slots, so that a click
+    // delivered before its deferred deletion reaches nobody.
+    void DisconnectFrontendImpl();
 
 private:
     CKyUIPushButtonFrontend* GetFrontend() const;

@@ -3,8 +3,6 @@
 #include "UI/CKyUISignal.h"
 #include "UI/Impl/CKyUIBaseViewImpl.h"
 
-#include <QtCore/QPointer>
-
 class CKyUITextViewFrontend;
 
 class CKyUITextViewImpl : public CKyUIBaseViewImpl
@@ -38,6 +36,10 @@ public:
     void AddTextImpl(const QString& text);
     void SetReadOnly(bool readOnly);
     void SetPlaceholderTextImpl(const QString& text);
+    // The widget outlives this object until the event loop deletes it, and
+    // keeps its pointer to us: its content and focus changes are cut off
+    // from it here.
+    void DisconnectFrontendImpl();
 
     CKyUISignal<void()> textChanged;
     CKyUISignal<void()> focusInEventSignal;
@@ -48,7 +50,4 @@ private:
     QString m_placeholderText;
     // Off until a client asks: the widget keeps its own height.
     bool m_adjustHeightToContent = false;
-    // To let go of the frontend, which outlives this object until the event
-    // loop deletes it.
-    QPointer<CKyUITextViewFrontend> m_frontend;
 };

@@ -16,7 +16,7 @@ class COMMONUI_EXPORT CKyUIComboBox : public CKyUIBaseView
 {
 public:
     // Accepted by setInsertPolicy, which has no effect.
-    enum InsertPolicy {
+    enum InsertPolicy : int {
         NoInsert,
         InsertAtTop,
         InsertAtCurrent,

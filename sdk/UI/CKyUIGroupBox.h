@@ -10,7 +10,7 @@ class COMMONUI_EXPORT CKyUIGroupBox : public CKyUIBaseView
 {
 public:
     // Only Vertical (1) gives a column; every other value gives a row.
-    enum Orientation {
+    enum Orientation : int {
         Horizontal = 0,
         Vertical = 1,
     };

@@ -12,7 +12,7 @@ class COMMONUI_EXPORT CKyUITextEdit : public CKyUIBaseView
 public:
     // Width class of the field: 69, 158, 248 or 336 pixels; any other value
     // gives 39.
-    enum _Size {
+    enum _Size : int {
         Tiny = 0,
         Small = 1,
         Medium = 2,

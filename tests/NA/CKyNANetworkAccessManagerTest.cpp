@@ -2,6 +2,7 @@
 #include "NA/CKyNANetworkReply.h"
 #include "NA/CKyNANetworkRequest.h"
 
+#include "NA/ClosedPort.h"
 #include "NA/EventWait.h"
 #include "NA/HttpTestServer.h"
 #include "NA/ReplyRecorder.h"
@@ -10,7 +11,6 @@
 #include <QtCore/QPointer>
 #include <QtNetwork/QNetworkAccessManager>
 #include <QtNetwork/QNetworkReply>
-#include <QtNetwork/QTcpServer>
 
 #include <gtest/gtest.h>
 
@@ -143,12 +143,9 @@ TEST_F(NetworkAccessManager, EachCallReturnsANewReplyThatRemembersTheCallersRequ
 
 TEST_F(NetworkAccessManager, RefusedConnectionReportsErrorThenFinished)
 {
-    QTcpServer probe;
-    ASSERT_TRUE(probe.listen(QHostAddress::LocalHost, 0));
-    const quint16 port = probe.serverPort();
-    probe.close();
-
-    CKyNANetworkRequest request(QUrl(QStringLiteral("http://127.0.0.1:%1/").arg(port)));
+    ClosedPort refused;
+    ASSERT_TRUE(refused.isValid());
+    CKyNANetworkRequest request(refused.url());
     std::unique_ptr<CKyNANetworkReply> reply(manager.get(request));
     ReplyRecorder recorder(reply.get());
     ASSERT_TRUE(waitFinished(recorder));

@@ -151,6 +151,15 @@ void HttpTestServer::Answer(QTcpSocket* socket, const HttpTestRequest& request, 
     case Mode::CloseEarly:
         Close(socket, connection);
         break;
+    case Mode::CloseMidBody:
+        socket->write(Head(route.status, route.reason, route.headers, route.body.size()) +
+                      route.body.left(route.body.size() / 2));
+        Close(socket, connection);
+        break;
+    case Mode::Malformed:
+        socket->write(route.body);
+        Close(socket, connection);
+        break;
     }
 }
 

@@ -28,7 +28,8 @@ struct HttpTestRequest
 // connection, answering each path as told: normally, with a given status,
 // headers (repeated names too) and body, echoing what it received, or
 // misbehaving (stalling before or inside the body, trickling a body that
-// never ends, closing without an answer).
+// never ends, closing without an answer or in the middle of the body,
+// answering with a status line that is no HTTP).
 class HttpTestServer : public QObject
 {
     Q_OBJECT
@@ -40,7 +41,9 @@ public:
         Stall,        // reads the request and never answers
         StallMidBody, // headers and the first half of the body, then nothing
         Trickle,      // headers promising much, then one byte every 20 ms
-        CloseEarly    // closes the connection without answering
+        CloseEarly,   // closes the connection without answering
+        CloseMidBody, // headers and the first half of the body, then closes
+        Malformed     // the route's body as the whole answer, then closes
     };
 
     struct Route
@@ -61,6 +64,8 @@ public:
 
     void setRoute(const QByteArray& path, const Route& route);
     const QList<HttpTestRequest>& requests() const { return m_requests; }
+    // Connections accepted and not yet closed by the client.
+    int openConnections() const { return m_connections.size(); }
 
 Q_SIGNALS:
     void requestReceived();

@@ -39,6 +39,12 @@ void WebSocketTestServer::close(QWebSocketProtocol::CloseCode code, const QStrin
         m_peer->close(code, reason);
 }
 
+void WebSocketTestServer::abort()
+{
+    if (m_peer)
+        m_peer->abort();
+}
+
 void WebSocketTestServer::OnNewConnection()
 {
     while (QWebSocket* socket = m_server.nextPendingConnection()) {

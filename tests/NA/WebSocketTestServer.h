@@ -29,6 +29,8 @@ public:
     void sendText(const QString& message);
     void sendBinary(const QByteArray& message);
     void close(QWebSocketProtocol::CloseCode code, const QString& reason);
+    // Drops the connection at once, without a closing handshake.
+    void abort();
 
 Q_SIGNALS:
     void peerConnected();

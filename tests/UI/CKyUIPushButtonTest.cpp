@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <QtCore/QMetaMethod>
+#include <QtCore/QPointer>
 #include <QtGui/QPixmap>
 #include <QtTest/QTest>
 
@@ -168,4 +169,26 @@ TEST(CKyUIPushButtonTest, TextIsAnsweredFromTheRecordAndResourceIconsChangeNothi
     EXPECT_TRUE(FrontendOf(button)->icon().isNull());
     EXPECT_TRUE(static_cast<CKyUIPushButtonImpl*>(button.impl())->Icon().isNull());
     EXPECT_EQ(FrontendOf(button)->styleSheet(), "QPushButton { }");
+}
+
+TEST(CKyUIPushButtonTest, AClickOnTheWidgetOutlivingTheButtonReachesNobody)
+{
+    auto* button = new CKyUIPushButton;
+    int clicks = 0;
+    button->clicked().connect([&clicks](bool) { ++clicks; });
+    QPointer<CKyUIPushButtonFrontend> widget(FrontendOf(*button));
+    widget->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(widget.data()));
+
+    delete button;
+    // The widget goes on the next pass of the event loop and keeps its impl
+    // pointer until then; a click delivered in between must not use it.
+    ASSERT_FALSE(widget.isNull());
+    EXPECT_NE(widget->impl, nullptr);
+    QTest::mouseClick(widget.data(), Qt::LeftButton);
+    widget->click();
+    EXPECT_EQ(clicks, 0);
+
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(widget.isNull());
 }

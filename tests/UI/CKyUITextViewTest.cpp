@@ -119,6 +119,26 @@ TEST(CKyUITextViewTest, ReplacementIsPlainOneUndoableStepInTheCurrentFormat)
     EXPECT_TRUE(widget->toPlainText().isEmpty());
 }
 
+// A long text wraps into many lines; replacing it by a short one must not
+// leave the toolkit measuring the old lines (the memcheck run sees it if it
+// does), and stays one undoable step with the cursor after the new text.
+TEST(CKyUITextViewTest, ALongWrappedTextReplacedByAShortOne)
+{
+    CKyUITextView view;
+    QTextEdit* widget = WidgetOf(view);
+    QString paragraph;
+    for (int i = 0; paragraph.size() < 2000; ++i)
+        paragraph += QStringLiteral("word%1 ").arg(i);
+    view.setText(paragraph);
+    ASSERT_GT(widget->document()->documentLayout()->documentSize().height(), 100.0);
+
+    view.setText("short");
+    EXPECT_EQ(widget->toPlainText(), "short");
+    EXPECT_EQ(widget->textCursor().position(), 5);
+    widget->document()->undo();
+    EXPECT_EQ(widget->toPlainText(), paragraph);
+}
+
 TEST(CKyUITextViewTest, AddTextShowsMarkupLiterallyAddHtmlTextFormatted)
 {
     CKyUITextView view;

@@ -92,6 +92,18 @@ void CKyUIBaseViewImpl::SetFocusImpl()
 
 void CKyUIBaseViewImpl::SetFocusPolicyImpl(int policy)
 {
+    // A number that names no focus policy is no value of the toolkit's
+    // enumeration at all; it changes nothing.
+    switch (policy) {
+    case Qt::NoFocus:
+    case Qt::TabFocus:
+    case Qt::ClickFocus:
+    case Qt::StrongFocus:
+    case Qt::WheelFocus:
+        break;
+    default:
+        return;
+    }
     if (QWidget* widget = GetWidget())
         widget->setFocusPolicy(static_cast<Qt::FocusPolicy>(policy));
 }

@@ -58,8 +58,13 @@ void CKyUIBoxLayoutImpl::InsertViewImpl(CKyUIBaseView* view, int index, float st
 {
     QBoxLayout* layout = GetBoxLayout();
     QWidget* widget = layout ? PrepareChildWidget(view) : nullptr;
-    if (widget)
-        layout->insertWidget(index, widget, static_cast<int>(stretch), Qt::Alignment());
+    if (!widget)
+        return;
+    // A position past the end is the end, as a negative one is for the
+    // toolkit, which asserts on the former in its debug builds.
+    if (index > layout->count())
+        index = -1;
+    layout->insertWidget(index, widget, static_cast<int>(stretch), Qt::Alignment());
 }
 
 void CKyUIBoxLayoutImpl::RemoveWidgetImpl(CKyUIBaseView* view)

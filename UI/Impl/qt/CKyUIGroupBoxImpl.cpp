@@ -64,8 +64,13 @@ void CKyUIGroupBoxImpl::InsertViewImpl(CKyUIBaseView* view, int index, float str
 {
     QBoxLayout* layout = LayoutOf(owner());
     QWidget* widget = layout ? PrepareChildWidget(view) : nullptr;
-    if (widget)
-        layout->insertWidget(index, widget, static_cast<int>(stretch), Qt::Alignment());
+    if (!widget)
+        return;
+    // A position past the end is the end, as a negative one is for the
+    // toolkit, which asserts on the former in its debug builds.
+    if (index > layout->count())
+        index = -1;
+    layout->insertWidget(index, widget, static_cast<int>(stretch), Qt::Alignment());
 }
 
 void CKyUIGroupBoxImpl::SetTitleImpl(const QString& title)

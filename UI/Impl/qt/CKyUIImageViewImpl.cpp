@@ -10,7 +10,9 @@ void CKyUIImageViewImpl::UpdateImpl()
 {
     const int width = Width();
     const int height = Height();
-    if (width == 0 || height == 0)
+    // A negative size makes no image either (and its rectangle would not
+    // fit an int).
+    if (width <= 0 || height <= 0)
         return;
     // Not cleared: whatever paints must cover the whole image.
     m_image = QImage(width, height, QImage::Format_ARGB32);

@@ -78,3 +78,13 @@ void CKyUIPushButtonImpl::SetCheckableImpl(bool checkable)
     if (CKyUIPushButtonFrontend* button = GetFrontend())
         button->setCheckable(checkable);
 }
+
+void CKyUIPushButtonImpl::DisconnectFrontendImpl()
+{
+    CKyUIPushButtonFrontend* button = GetFrontend();
+    if (!button)
+        return;
+    QObject::disconnect(button, SIGNAL(pressed()), button, SLOT(OnPressed()));
+    QObject::disconnect(button, SIGNAL(released()), button, SLOT(OnReleased()));
+    QObject::disconnect(button, SIGNAL(clicked()), button, SLOT(OnClicked()));
+}

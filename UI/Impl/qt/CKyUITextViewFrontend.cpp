@@ -29,10 +29,13 @@ void CKyUITextViewFrontend::setText(QString text)
     for (int i = 0; i < length; ++i)
         cursor.movePosition(QTextCursor::PreviousCharacter, QTextCursor::KeepAnchor, 1);
     cursor.insertText(text, currentCharFormat());
-    setTextCursor(cursor);
     adjustSize();
     document()->adjustSize();
     editBlock.endEditBlock();
+    // Only once the edit block is closed: until then the layout still
+    // describes the old text, and the toolkit, bringing the cursor into view,
+    // would read the lines of a longer old text from freed memory.
+    setTextCursor(cursor);
 }
 
 void CKyUITextViewFrontend::focusInEvent(QFocusEvent* event)

@@ -2,20 +2,33 @@
 
 #include "UI/Impl/qt/CKyUITextViewFrontend.h"
 
+#include <QtCore/QEvent>
+
 namespace
 {
 CKyUITextViewFrontend* FrontendOf(const CKyUIObject* owner)
 {
     return qobject_cast<CKyUITextViewFrontend*>(owner->getHandle());
 }
+
+// Takes the focus changes of a widget whose view is gone before its handlers,
+// which would report them through the pointer it keeps, can see them.
+class FocusChangesToNobody : public QObject
+{
+public:
+    using QObject::QObject;
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        return event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut;
+    }
+};
 } // namespace
 
 CKyUITextViewImpl::~CKyUITextViewImpl()
 {
-    // The widget is deleted later and may still change focus or content
-    // meanwhile; from now on it reports to no one.
-    if (m_frontend && m_frontend->impl == this)
-        m_frontend->impl = nullptr;
+    DisconnectFrontendImpl();
 }
 
 void CKyUITextViewImpl::CreateFrontendControl()
@@ -23,7 +36,6 @@ void CKyUITextViewImpl::CreateFrontendControl()
     auto* frontend = new CKyUITextViewFrontend;
     frontend->setStyleSheet(QStringLiteral("QTextEdit { }"));
     frontend->impl = this;
-    m_frontend = frontend;
     owner()->setHandle(frontend);
 }
 
@@ -49,4 +61,14 @@ void CKyUITextViewImpl::SetPlaceholderTextImpl(const QString& text)
 {
     if (CKyUITextViewFrontend* frontend = FrontendOf(owner()))
         frontend->setPlaceholderText(text);
+}
+
+void CKyUITextViewImpl::DisconnectFrontendImpl()
+{
+    CKyUITextViewFrontend* frontend = FrontendOf(owner());
+    if (!frontend)
+        return;
+    QObject::disconnect(frontend, SIGNAL(textChanged()), frontend, SLOT(OnEditContentChanged()));
+    // A child of the widget, so it goes with it.
+    frontend->installEventFilter(new FocusChangesToNobody(frontend));
 }

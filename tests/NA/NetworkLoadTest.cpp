@@ -1,0 +1,164 @@
+#include "NA/CKyNANetworkAccessManager.h"
+#include "NA/CKyNANetworkReply.h"
+#include "NA/CKyNANetworkRequest.h"
+#include "NA/CKyNAWebSocket.h"
+
+#include "NA/EventWait.h"
+#include "NA/HttpTestServer.h"
+#include "NA/ReplyRecorder.h"
+#include "NA/WebSocketTestServer.h"
+
+#include <QtCore/QPointer>
+#include <QtCore/QTimer>
+#include <QtNetwork/QNetworkReply>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <vector>
+
+// Many transfers, big bodies and long message streams on 127.0.0.1; the
+// suites' names keep them out of the memcheck run, where they would take
+// most of the time and prove nothing more than the fault tests do.
+
+namespace
+{
+
+using Route = HttpTestServer::Route;
+
+// A body that tells where each of its bytes belongs: every eight bytes spell
+// their own block number (offset by the index) in hexadecimal.
+QByteArray patternBody(int index, int size)
+{
+    QByteArray body(size, Qt::Uninitialized);
+    char* data = body.data();
+    for (int i = 0; i < size; ++i) {
+        const unsigned block = unsigned(i / 8 + index);
+        data[i] = "0123456789abcdef"[(block >> (4 * (7 - i % 8))) & 0xfu];
+    }
+    return body;
+}
+
+int liveToolkitReplies(const CKyNANetworkAccessManager& manager)
+{
+    return manager.getHandle()->findChildren<QNetworkReply*>().size();
+}
+
+class NetworkLoad : public ::testing::Test
+{
+protected:
+    void SetUp() override { ASSERT_TRUE(server.isListening()); }
+
+    HttpTestServer server;
+    CKyNANetworkAccessManager manager;
+};
+
+} // namespace
+
+TEST_F(NetworkLoad, FiveHundredConcurrentGetsAllFinishIntactAndLeaveNoReplyBehind)
+{
+    const int count = 500;
+    std::vector<std::unique_ptr<CKyNANetworkRequest>> requests;
+    for (int i = 0; i < count; ++i) {
+        Route route;
+        route.body = patternBody(i, 200 + 37 * (i % 50));
+        const QByteArray path = "/item/" + QByteArray::number(i);
+        server.setRoute(path, route);
+        requests.push_back(std::make_unique<CKyNANetworkRequest>(server.url(QString::fromLatin1(path))));
+        requests.back()->setRequestTimeout(60000);
+    }
+
+    struct Result
+    {
+        QStringList log;
+        QByteArray body;
+        bool deleted = false;
+    };
+    std::vector<Result> results(count);
+    int deleted = 0;
+    for (int i = 0; i < count; ++i) {
+        CKyNANetworkReply* reply = manager.get(*requests[i]);
+        ASSERT_TRUE(reply);
+        reply->error().connect([&results, i](CKyNANetworkReply::NetworkError code) {
+            results[i].log << QStringLiteral("error:%1").arg(int(code));
+        });
+        // Read at the finish; deleted there and then (every other one) or on
+        // the next pass of the event loop, while the other transfers go on.
+        reply->finished().connect([&results, &deleted, reply, i] {
+            results[i].log << QStringLiteral("finished");
+            results[i].body = reply->readAll();
+            // A copy of its own: the slot's captures go with the reply.
+            const auto deleteReply = [&results, &deleted, reply, i] {
+                delete reply;
+                results[i].deleted = true;
+                ++deleted;
+            };
+            if (i % 2 == 0)
+                deleteReply();
+            else
+                QTimer::singleShot(0, deleteReply);
+        });
+    }
+    EXPECT_EQ(liveToolkitReplies(manager), count);
+
+    ASSERT_TRUE(waitUntil([&] { return deleted == count; }, 60000));
+    for (int i = 0; i < count; ++i) {
+        SCOPED_TRACE(i);
+        EXPECT_EQ(results[i].log, QStringList{QStringLiteral("finished")});
+        EXPECT_EQ(results[i].body, patternBody(i, 200 + 37 * (i % 50)));
+        EXPECT_TRUE(results[i].deleted);
+    }
+    EXPECT_EQ(server.requests().size(), count);
+
+    // The toolkit replies were handed to the event loop for deletion.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(liveToolkitReplies(manager), 0);
+}
+
+TEST_F(NetworkLoad, TenMegabyteBodyArrivesIntact)
+{
+    Route big;
+    big.body = patternBody(10, 10 * 1024 * 1024);
+    server.setRoute("/big", big);
+
+    CKyNANetworkRequest request(server.url(QStringLiteral("/big")));
+    std::unique_ptr<CKyNANetworkReply> reply(manager.get(request));
+    ReplyRecorder recorder(reply.get());
+    ASSERT_TRUE(waitUntil([&] { return recorder.isFinished(); }, 30000));
+
+    EXPECT_EQ(recorder.log, QStringList{QStringLiteral("finished")});
+    EXPECT_EQ(recorder.lastReceived, big.body.size());
+    EXPECT_EQ(reply->bytesAvailable(), big.body.size());
+    const QByteArray body = reply->readAll();
+    EXPECT_EQ(body.size(), big.body.size());
+    EXPECT_TRUE(body == big.body);
+}
+
+TEST(WebSocketLoad, HundredThousandTextMessagesArriveInOrder)
+{
+    WebSocketTestServer server;
+    ASSERT_TRUE(server.isListening());
+    CKyNAWebSocket socket(QString(), CKyNAWebSocketProtocol::VersionLatest);
+    bool connected = false;
+    socket.connected().connect([&connected] { connected = true; });
+    const int count = 100000;
+    std::vector<QString> received;
+    received.reserve(count);
+    socket.textMessageReceived().connect(
+        [&received](const QString& message) { received.push_back(message); });
+
+    socket.open(CKyNANetworkRequest(server.url()));
+    ASSERT_TRUE(waitUntil([&] { return connected && server.peer(); }));
+    for (int i = 0; i < count; ++i)
+        server.sendText(QString::number(i));
+    ASSERT_TRUE(waitUntil([&] { return received.size() >= size_t(count); }, 60000));
+
+    ASSERT_EQ(received.size(), size_t(count));
+    int outOfOrder = 0;
+    for (int i = 0; i < count; ++i) {
+        if (received[i] != QString::number(i))
+            ++outOfOrder;
+    }
+    EXPECT_EQ(outOfOrder, 0);
+    socket.blockSignals(true);
+}

@@ -1,0 +1,168 @@
+#include "NA/CKyNANetworkAccessManager.h"
+#include "NA/CKyNANetworkReply.h"
+#include "NA/CKyNANetworkRequest.h"
+
+#include "NA/ClosedPort.h"
+#include "NA/EventWait.h"
+#include "NA/HttpTestServer.h"
+#include "NA/ReplyRecorder.h"
+
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QPointer>
+#include <QtNetwork/QNetworkReply>
+#include <QtTest/QSignalSpy>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <vector>
+
+namespace
+{
+
+using Route = HttpTestServer::Route;
+using Mode = HttpTestServer::Mode;
+
+class NetworkReplyFault : public ::testing::Test
+{
+protected:
+    void SetUp() override { ASSERT_TRUE(server.isListening()); }
+
+    HttpTestServer server;
+    CKyNANetworkAccessManager manager;
+};
+
+} // namespace
+
+// Each fault ends the reply with its own error and then finished, well before
+// the request's time-out would have cancelled it. (No case for a host name
+// that does not resolve: the resolver here would ask a name server off this
+// machine, even for a name under .invalid.)
+TEST_F(NetworkReplyFault, EachFaultGivesItsErrorThenFinishedBeforeTheTimeout)
+{
+    Route midBody;
+    midBody.mode = Mode::CloseMidBody;
+    midBody.body = QByteArray(4000, 'm');
+    server.setRoute("/mid-body", midBody);
+    Route malformed;
+    malformed.mode = Mode::Malformed;
+    malformed.body = "HTTP/1.1 two hundred OK\r\nContent-Length: 2\r\n\r\nok";
+    server.setRoute("/malformed", malformed);
+    Route notHttp;
+    notHttp.mode = Mode::Malformed;
+    notHttp.body = "220 mail.example ESMTP ready\r\n";
+    server.setRoute("/not-http", notHttp);
+
+    ClosedPort refused;
+    ASSERT_TRUE(refused.isValid());
+
+    const struct
+    {
+        const char* name;
+        QUrl url;
+        CKyNANetworkReply::NetworkError error;
+    } cases[] = {
+        {"closed in the middle of the body", server.url(QStringLiteral("/mid-body")),
+         CKyNANetworkReply::RemoteHostClosedError},
+        // The toolkit takes a status line it cannot read for a broken
+        // connection (and tries again before it gives up).
+        {"malformed status line", server.url(QStringLiteral("/malformed")),
+         CKyNANetworkReply::RemoteHostClosedError},
+        {"no HTTP at all", server.url(QStringLiteral("/not-http")), CKyNANetworkReply::RemoteHostClosedError},
+        {"connection refused", refused.url(), CKyNANetworkReply::ConnectionRefusedError},
+    };
+    const int timeout = 10000;
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        CKyNANetworkRequest request(c.url);
+        request.setRequestTimeout(timeout);
+        std::unique_ptr<CKyNANetworkReply> reply(manager.get(request));
+        ASSERT_TRUE(reply);
+        ReplyRecorder recorder(reply.get());
+        ASSERT_TRUE(waitUntil([&] { return recorder.isFinished(); }, timeout));
+        EXPECT_EQ(recorder.log,
+                  (QStringList{QStringLiteral("error:%1").arg(int(c.error)), QStringLiteral("finished")}));
+        EXPECT_EQ(errorCode(*reply), c.error);
+        EXPECT_TRUE(reply->isFinished());
+        // Whatever arrived is readable and nothing more: never more than was sent.
+        EXPECT_LE(reply->readAll().size(), 4000);
+    }
+}
+
+TEST_F(NetworkReplyFault, StalledServerEndsEachReplyAtItsOwnTimeout)
+{
+    Route stall;
+    stall.mode = Mode::Stall;
+    server.setRoute("/stall", stall);
+
+    const int timeouts[] = {1000, 50, 200};
+    struct Transfer
+    {
+        std::unique_ptr<CKyNANetworkRequest> request;
+        std::unique_ptr<CKyNANetworkReply> reply;
+        std::unique_ptr<ReplyRecorder> recorder;
+        qint64 endedAfter = -1;
+    };
+    QList<int> endOrder;
+    QElapsedTimer clock;
+    std::vector<Transfer> transfers(3);
+    clock.start();
+    for (int i = 0; i < 3; ++i) {
+        Transfer& t = transfers[i];
+        t.request = std::make_unique<CKyNANetworkRequest>(server.url(QStringLiteral("/stall")));
+        t.request->setRequestTimeout(timeouts[i]);
+        t.reply.reset(manager.get(*t.request));
+        t.recorder = std::make_unique<ReplyRecorder>(t.reply.get());
+        t.reply->finished().connect([&, i] {
+            transfers[i].endedAfter = clock.elapsed();
+            endOrder << timeouts[i];
+        });
+    }
+
+    // Far below the 30 s that a lost time-out would fall back to.
+    ASSERT_TRUE(waitUntil([&] { return endOrder.size() == 3; }, 10000));
+    EXPECT_EQ(endOrder, (QList<int>{50, 200, 1000}));
+    for (int i = 0; i < 3; ++i) {
+        SCOPED_TRACE(timeouts[i]);
+        const Transfer& t = transfers[i];
+        EXPECT_EQ(t.recorder->log, (QStringList{QStringLiteral("error:5"), QStringLiteral("finished")}));
+        // Generous: coarse timers may fire a little early, a busy machine late.
+        EXPECT_GE(t.endedAfter, timeouts[i] * 9 / 10);
+        EXPECT_LT(t.endedAfter, timeouts[i] + 5000);
+    }
+}
+
+TEST_F(NetworkReplyFault, DeletingARunningReplyEndsItsTransferAndItsSignals)
+{
+    Route trickle;
+    trickle.mode = Mode::Trickle;
+    server.setRoute("/trickle", trickle);
+    CKyNANetworkRequest request(server.url(QStringLiteral("/trickle")));
+
+    // Deleted at once, before the event loop has seen the transfer at all.
+    delete manager.get(request);
+
+    std::unique_ptr<CKyNANetworkReply> reply(manager.get(request));
+    auto emissions = std::make_shared<int>(0);
+    reply->downloadProgress().connect([emissions](long long, long long) { ++*emissions; });
+    reply->error().connect([emissions](CKyNANetworkReply::NetworkError) { ++*emissions; });
+    reply->finished().connect([emissions] { ++*emissions; });
+    QPointer<QObject> toolkit = reply->getHandle();
+    // Progress is reported at most every 100 ms or so while bytes trickle in.
+    ASSERT_TRUE(waitUntil([&] { return *emissions >= 2; }));
+
+    reply.reset();
+    const int before = *emissions;
+    // The toolkit reply lives on until the event loop deletes it, and the
+    // bytes keep coming meanwhile: nothing of it reaches the deleted reply.
+    QSignalSpy arrivals(toolkit.data(), SIGNAL(downloadProgress(qint64, qint64)));
+    ASSERT_TRUE(waitUntil([&] { return arrivals.count() >= 2; }));
+    EXPECT_EQ(*emissions, before);
+
+    // Its deletion takes the connection and the time-out guard with it.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(toolkit.isNull());
+    EXPECT_TRUE(manager.getHandle()->findChildren<QNetworkReply*>().isEmpty());
+    EXPECT_TRUE(waitUntil([&] { return server.openConnections() == 0; }));
+    EXPECT_EQ(*emissions, before);
+}
