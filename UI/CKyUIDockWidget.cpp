@@ -14,6 +14,14 @@ CKyUIDockWidget::~CKyUIDockWidget() = default;
 
 void CKyUIDockWidget::setWidget(CKyUIBaseView* view)
 {
+    // Show and hide events are handed down the chain of docks: a chain that
+    // leads back here would never end.
+    for (CKyUIBaseView* next = view; next;) {
+        if (next == this)
+            return;
+        auto* dock = dynamic_cast<CKyUIDockWidget*>(next);
+        next = dock ? dock->widget() : nullptr;
+    }
     implAs<CKyUIDockWidgetImpl>()->SetWidget(view);
 }
 

@@ -16,6 +16,9 @@ void CKyUIStackedWidget::addTab(CKyUIBaseView* view, const QString& title)
     if (!view)
         return;
     view->setParent(this);
+    // The tree refuses this view itself or one of its ancestors as a page.
+    if (view->parent() != this)
+        return;
     implAs<CKyUIStackedWidgetImpl>()->AddTab(view, title);
 }
 

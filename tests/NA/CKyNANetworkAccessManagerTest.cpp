@@ -1,6 +1,7 @@
 #include "NA/CKyNANetworkAccessManager.h"
 #include "NA/CKyNANetworkReply.h"
 #include "NA/CKyNANetworkRequest.h"
+#include "NA/CKyNAWebSocket.h"
 
 #include "NA/ClosedPort.h"
 #include "NA/EventWait.h"
@@ -216,4 +217,34 @@ TEST_F(NetworkAccessManager, ReplyLeftBehindByItsManagerDoesNotReachForTheGoneTo
     EXPECT_EQ(errorCode(*reply), CKyNANetworkReply::NoError);
     EXPECT_TRUE(reply->readAll().isEmpty());
     reply->abort();
+}
+
+// Without a toolkit request there is nothing to send: no reply, and a socket
+// opened on it stays quiet. An empty URL fails in the toolkit's way.
+TEST_F(NetworkAccessManager, RequestsWithoutToolkitRequestOrUrl)
+{
+    CKyNANetworkRequest request(server.url(QStringLiteral("/echo")));
+    QNetworkRequest* taken = request.getHandle();
+    request.setHandle(nullptr);
+    EXPECT_EQ(manager.get(request), nullptr);
+    EXPECT_EQ(manager.post(request, QByteArray("x")), nullptr);
+    EXPECT_EQ(manager.put(request, static_cast<QIODevice*>(nullptr)), nullptr);
+    EXPECT_EQ(manager.deleteResource(request), nullptr);
+    request.setRawHeader("X-A", "1");
+    EXPECT_EQ(request.rawHeader("X-A").toByteArray(), QByteArray("1"));
+    {
+        CKyNAWebSocket socket(QString(), CKyNAWebSocketProtocol::VersionLatest);
+        int reports = 0;
+        socket.error().connect([&reports](int) { ++reports; });
+        socket.open(request);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(reports, 0);
+    }
+    request.setHandle(taken);
+
+    std::unique_ptr<CKyNANetworkReply> reply(manager.get(CKyNANetworkRequest{QUrl()}));
+    ReplyRecorder recorder(reply.get());
+    ASSERT_TRUE(waitUntil([&] { return recorder.isFinished(); }));
+    EXPECT_EQ(recorder.log, (QStringList{QStringLiteral("error:%1").arg(int(CKyNANetworkReply::ProtocolUnknownError)),
+                                         QStringLiteral("finished")}));
 }

@@ -1,3 +1,4 @@
+#include "UI/CKyUIGroupBox.h"
 #include "UI/CKyUIHorizontalLayout.h"
 #include "UI/CKyUIVerticalLayout.h"
 #include "UI/Impl/CKyUIBoxLayoutImpl.h"
@@ -78,20 +79,29 @@ TEST(BoxLayoutTest, StretchIsTruncatedAndPolicyFixedPerDirection)
     EXPECT_EQ(LayoutOf(column)->itemAt(1)->alignment(), Qt::Alignment());
 }
 
-TEST(BoxLayoutTest, InsertPlacesAtTheIndex)
+// A position outside the layout is its end; group boxes place alike.
+TEST(BoxLayoutTest, InsertPlacesAtTheIndexOrAtTheEnd)
 {
-    for (int vertical = 0; vertical < 2; ++vertical) {
+    for (int kind = 0; kind < 4; ++kind) {
         std::unique_ptr<CKyUIBaseView> layout;
-        if (vertical)
+        if (kind == 0)
+            layout.reset(new CKyUIHorizontalLayout);
+        else if (kind == 1)
             layout.reset(new CKyUIVerticalLayout);
         else
-            layout.reset(new CKyUIHorizontalLayout);
+            layout.reset(new CKyUIGroupBox(kind == 2 ? CKyUIGroupBox::Horizontal : CKyUIGroupBox::Vertical, false));
         HandleView* last = NewLabelView();
         HandleView* first = NewLabelView();
         layout->addView(last, 0);
         layout->insertView(first, 0, 3);
-        EXPECT_EQ(LayoutOf(*layout)->indexOf(WidgetOf(first)), 0);
-        EXPECT_EQ(LayoutOf(*layout)->indexOf(WidgetOf(last)), 1);
+        std::vector<HandleView*> order{first, last};
+        for (int index : {-1, 1000, INT_MAX, INT_MIN}) {
+            order.push_back(NewLabelView());
+            layout->insertView(order.back(), index);
+        }
+        ASSERT_EQ(LayoutOf(*layout)->count(), int(order.size()));
+        for (int i = 0; i < int(order.size()); ++i)
+            EXPECT_EQ(LayoutOf(*layout)->itemAt(i)->widget(), WidgetOf(order[i])) << kind << " " << i;
         EXPECT_EQ(LayoutOf(*layout)->stretch(0), 3);
     }
 }

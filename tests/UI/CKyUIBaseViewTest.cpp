@@ -1,8 +1,12 @@
 #include "UI/CKyUIBaseView.h"
+#include "UI/CKyUILabel.h"
 #include "UI/CKyUIVerticalLayout.h"
 #include "support/TestViews.h"
 
 #include <gtest/gtest.h>
+
+#include <climits>
+#include <memory>
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QPointer>
@@ -111,6 +115,33 @@ TEST(CKyUIBaseViewTest, NullAndSelfAreIgnored)
     layout.setTabOrder(nullptr, &layout);
     EXPECT_TRUE(layout.children().isEmpty());
     EXPECT_EQ(layout.parent(), nullptr);
+    // Nor can an ancestor become a child of its descendant.
+    auto* row = new CKyUIVerticalLayout;
+    layout.addView(row);
+    row->addView(&layout);
+    row->insertView(&layout, 0);
+    EXPECT_EQ(layout.parent(), nullptr);
+    EXPECT_TRUE(row->children().isEmpty());
+}
+
+// A removed view is given back, but its widget stays with the former
+// container and goes with it; the view still answers and moves on.
+TEST(CKyUIBaseViewTest, AViewWhoseWidgetWentWithItsFormerContainerIsQuiet)
+{
+    auto* column = new CKyUIVerticalLayout;
+    std::unique_ptr<CKyUILabel> label(new CKyUILabel);
+    column->addView(label.get());
+    column->removeView(label.get());
+    delete column;
+    RunDeferredDeletions();
+    EXPECT_EQ(label->getHandle(), nullptr);
+    label->setText("kept");
+    label->setBorderWidth(2.0f);
+    label->setVisible(true);
+    EXPECT_EQ(label->text(), "kept");
+    CKyUIVerticalLayout other;
+    other.insertView(label.release(), 0);
+    EXPECT_EQ(other.children().size(), 1);
 }
 
 TEST(CKyUIBaseViewTest, AViewWrappingAWidgetCanTakeChildren)
@@ -173,4 +204,34 @@ TEST(CKyUIBaseViewTest, TabOrderLinksTheWidgets)
     EXPECT_NE(first->nextInFocusChain(), second);
     firstView.setHandle(nullptr);
     thirdView.setHandle(nullptr);
+}
+
+// Every combination of the toolkit's focus flags reaches the widget; other
+// numbers change nothing.
+TEST(CKyUIBaseViewTest, FocusPolicyPassesEveryCombinationOfTheFlags)
+{
+    CKyUILabel view;
+    auto* widget = qobject_cast<QWidget*>(view.getHandle());
+    for (int policy = 0; policy <= 15; ++policy) {
+        view.setFocusPolicy(policy);
+        EXPECT_EQ(int(widget->focusPolicy()), policy);
+    }
+    view.setFocusPolicy(Qt::TabFocus | Qt::ClickFocus);
+    for (int policy : {-1, 16, 17, INT_MAX, INT_MIN})
+        view.setFocusPolicy(policy);
+    EXPECT_EQ(int(widget->focusPolicy()), 3);
+}
+
+// A named class has no widget factory behind it: the view is left without one.
+TEST(CKyUIBaseViewTest, TheFactoryCreatesNoWidget)
+{
+    struct NamedImpl : CKyUIBaseViewImpl
+    {
+        using CKyUIBaseViewImpl::CKyUIBaseViewImpl;
+        QString GetFrontendClassName() override { return QStringLiteral("QWidget"); }
+    };
+    QWidget earlier;
+    HandleView view(&earlier);
+    NamedImpl(&view).CreateFrontendControl();
+    EXPECT_EQ(view.getHandle(), nullptr);
 }

@@ -227,3 +227,40 @@ TEST(CKyUIComboBoxTest, BlockedSignalsStillMoveTheModel)
     box.setCurrentIndex(0);
     EXPECT_EQ(log, QStringList({"index 0", "string Millimetres"}));
 }
+
+// After a clear, indexes that were valid and ones that never were change
+// nothing; insertions outside the list go to its nearest end, in the model
+// and on screen alike.
+TEST(CKyUIComboBoxTest, IndexesOutsideTheListAndInsertionsPastItsEnds)
+{
+    CKyUIComboBox combo;
+    QStringList log;
+    combo.addItem(QIcon(), "a", 1);
+    combo.addItem(QIcon(), "b", 2);
+    combo.setCurrentIndex(1);
+    combo.clear();
+    Record(combo, log);
+    for (int index : {-1, 0, 1, 2, INT_MAX, INT_MIN}) {
+        combo.removeItem(index);
+        combo.setCurrentIndex(index);
+        combo.setItemData(index, 5);
+        combo.setItemText(index, "ignored");
+        EXPECT_TRUE(combo.itemText(index).isEmpty());
+        EXPECT_FALSE(combo.itemData(index).isValid());
+    }
+    EXPECT_TRUE(log.isEmpty());
+    EXPECT_EQ(combo.currentText(), "b");
+
+    combo.insertItem(INT_MIN, "first");
+    combo.insertItem(INT_MAX, QIcon(), "last");
+    combo.insertItems(INT_MAX, {"x", "y"});
+    combo.insertItems(-5, {"p", "q"});
+    const QStringList expected{"p", "q", "first", "last", "x", "y"};
+    QStringList model, screen;
+    for (int i = 0; i < combo.count(); ++i)
+        model << combo.itemText(i);
+    for (int i = 0; i < WidgetOf(combo)->count(); ++i)
+        screen << WidgetOf(combo)->itemText(i);
+    EXPECT_EQ(model, expected);
+    EXPECT_EQ(screen, expected);
+}

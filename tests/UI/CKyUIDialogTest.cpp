@@ -258,3 +258,26 @@ TEST(CKyUIDialogTest, DestructionForgetsTheQDialogAndReleasesTheContent)
     EXPECT_TRUE(boxWidget.isNull());
     delete widget.data();
 }
+
+// The window outlives the dialog; children going with the dialog must not
+// find it through the dialog any more.
+TEST(CKyUIDialogTest, ChildrenGoingWithTheDialogFindNoWindow)
+{
+    struct Child : CKyUIObject
+    {
+        QObject** seen = nullptr;
+        ~Child() override { *seen = parent()->getHandle(); }
+    };
+    QObject* seen = nullptr;
+    QPointer<QDialog> window;
+    {
+        SampleDialog dialog;
+        window = dialog.widget();
+        auto* child = new Child;
+        child->seen = &seen;
+        child->setParent(&dialog);
+    }
+    EXPECT_EQ(seen, nullptr);
+    ASSERT_FALSE(window.isNull());
+    delete window.data();
+}

@@ -79,3 +79,20 @@ TEST(CKyUIDockWidgetTest, RaiseActsOnlyOnAToolkitDockWidget)
     EXPECT_EQ(window.children().last(), toolkitDock);
     dock.setHandle(nullptr);
 }
+
+// Events are handed down the chain of docks, so a chain back to the dock is
+// refused.
+TEST(CKyUIDockWidgetTest, TheDockOrAChainBackToItIsNoContent)
+{
+    CKyUIDockWidget outer(Qt::LeftDockWidgetArea);
+    CKyUIDockWidget inner(Qt::LeftDockWidgetArea);
+    outer.setWidget(&outer);
+    EXPECT_EQ(outer.widget(), nullptr);
+    outer.setWidget(&inner);
+    inner.setWidget(&outer);
+    EXPECT_EQ(inner.widget(), nullptr);
+    CKyUIShowEvent show;
+    CKyUIHideEvent hide;
+    outer.showEvent(&show);
+    inner.hideEvent(&hide);
+}

@@ -30,10 +30,10 @@ TEST(CKyUILabelTest, CreatesAPlainLabelWithAnEmptyRuleOfItsClass)
     EXPECT_STREQ(widget->metaObject()->className(), "QLabel");
     EXPECT_EQ(widget->parentWidget(), nullptr);
     EXPECT_EQ(widget->styleSheet(), "QLabel { }");
-    EXPECT_FALSE(label.wordWrap());
     label.setWordWrap(true);
-    EXPECT_TRUE(label.wordWrap());
     EXPECT_TRUE(widget->wordWrap());
+    label.setText("Length");
+    EXPECT_EQ(widget->text(), "Length");
 }
 
 TEST(CKyUILabelTest, FontSizeIsReplacedUnlessItsValueHoldsAZero)

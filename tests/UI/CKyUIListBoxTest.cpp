@@ -5,6 +5,7 @@
 
 #include <QtWidgets/QListWidget>
 
+#include <climits>
 #include <vector>
 
 namespace
@@ -111,4 +112,22 @@ TEST_F(CKyUIListBoxTest, ItemSelectedReactionTellsWhetherAnyIsSelected)
     Impl()->OnItemSelected(0, true);
     EXPECT_EQ(emitted.size(), 5u);
     EXPECT_TRUE(list.isItemSelected(0));
+}
+
+// Rows that were valid before a clear, and rows that never were.
+TEST_F(CKyUIListBoxTest, RowsOutsideTheListChangeNothing)
+{
+    list.clear();
+    for (int row : {-1, 0, 1, 5, INT_MAX, INT_MIN}) {
+        SCOPED_TRACE(row);
+        list.setItemData(row, 5);
+        list.setItemSelected(row, true);
+        list.setItemText(row, "ignored");
+        // A scratch string stands for a missing row; writing to it changes no item.
+        list.item(row) = "scribble";
+        EXPECT_TRUE(list.item(row).isEmpty());
+        EXPECT_FALSE(list.itemData(row).isValid());
+        EXPECT_FALSE(list.isItemSelected(row));
+    }
+    EXPECT_EQ(list.count(), 0);
 }

@@ -111,3 +111,19 @@ TEST(CKyUIRadioGroupTest, DestroyingTheBoxTakesGroupButtonsAndTheButtonGroupWith
     }
     EXPECT_TRUE(buttonGroup.isNull());
 }
+
+// A button added again is listed once, at the end; one taken from another
+// group moves.
+TEST(CKyUIRadioGroupTest, ButtonsAreListedOnceInTheirLastGroup)
+{
+    Units units;
+    CKyUIRadioGroup loose;
+    loose.addRadioButton(nullptr);
+    auto* stray = new CKyUIRadioButton;
+    loose.addRadioButton(stray);
+    units.group->addRadioButton(units.buttons[0]);
+    units.group->addRadioButton(stray);
+    EXPECT_TRUE(loose.children().isEmpty());
+    EXPECT_EQ(units.group->children(),
+              (QList<CKyUIObject*>{units.buttons[1], units.buttons[2], units.buttons[0], stray}));
+}

@@ -1,4 +1,5 @@
 #include "UI/CKyUIStackedWidget.h"
+#include "UI/CKyUIVerticalLayout.h"
 #include "UI/Impl/CKyUIStackedWidgetImpl.h"
 #include "support/TestViews.h"
 
@@ -152,4 +153,35 @@ TEST_F(CKyUIStackedWidgetTest, UnconnectedReactionsStoreAndEmit)
     EXPECT_EQ(stack.currentIndex(), 1);
     // Only the library's own record moved.
     EXPECT_EQ(Tabs()->currentIndex(), 0);
+}
+
+// The tree refuses the widget itself or an ancestor as a page; the tab widget
+// must not receive it either, or the toolkit loops in its own parentage.
+TEST_F(CKyUIStackedWidgetTest, ItselfOrAnAncestorIsNoPage)
+{
+    CKyUIVerticalLayout outer;
+    auto* inner = new CKyUIStackedWidget;
+    outer.addView(inner);
+    inner->addTab(inner, "itself");
+    inner->addTab(&outer, "ancestor");
+    EXPECT_EQ(qobject_cast<QTabWidget*>(inner->getHandle())->count(), 0);
+    EXPECT_EQ(inner->indexOf(&outer), 0);
+    EXPECT_TRUE(inner->children().isEmpty());
+    stack.addTab(&stack, "itself");
+    EXPECT_EQ(Tabs()->count(), 3);
+}
+
+// A page without a widget, or whose widget went, is a page of the library only.
+TEST_F(CKyUIStackedWidgetTest, PagesWithoutAWidgetCountInTheLibraryOnly)
+{
+    stack.addTab(new HandleView(nullptr), "no widget");
+    EXPECT_EQ(Tabs()->count(), 3);
+    stack.setCurrentIndex(3);
+    stack.removeView(pages[0]);
+    delete pages[0];
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(Tabs()->count(), 2);
+    stack.setTabText(3, "renamed");
+    stack.setCurrentIndex(0);
+    EXPECT_EQ(log, (std::vector<std::string>{"current 3", "current 0"}));
 }

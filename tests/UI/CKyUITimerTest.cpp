@@ -8,6 +8,8 @@
 #include <QtCore/QTimer>
 #include <QtTest/QSignalSpy>
 
+#include <climits>
+#include <functional>
 #include <vector>
 
 namespace
@@ -96,4 +98,19 @@ TEST(CKyUITimerTest, SingleShotRunsOnceOnALaterPassOfTheEventLoop)
     });
     ASSERT_TRUE(finished.wait(5000));
     EXPECT_EQ(runs, 2);
+}
+
+TEST(CKyUITimerTest, NegativeIntervalsAndEmptyCallablesNeverFire)
+{
+    CKyUITimer timer;
+    int timeouts = 0;
+    timer.timeout().connect([&timeouts] { ++timeouts; });
+    timer.start(-1);
+    timer.start(INT_MIN);
+    bool ran = false;
+    CKyUITimer::singleShot(-5, [&ran] { ran = true; });
+    CKyUITimer::singleShot(0, std::function<void()>());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(timeouts, 0);
+    EXPECT_FALSE(ran);
 }

@@ -92,18 +92,10 @@ void CKyUIBaseViewImpl::SetFocusImpl()
 
 void CKyUIBaseViewImpl::SetFocusPolicyImpl(int policy)
 {
-    // A number that names no focus policy is no value of the toolkit's
-    // enumeration at all; it changes nothing.
-    switch (policy) {
-    case Qt::NoFocus:
-    case Qt::TabFocus:
-    case Qt::ClickFocus:
-    case Qt::StrongFocus:
-    case Qt::WheelFocus:
-        break;
-    default:
+    // Any combination of the toolkit's focus flags passes; a number with other
+    // bits set is no focus policy at all and changes nothing.
+    if (policy & ~int(Qt::WheelFocus))
         return;
-    }
     if (QWidget* widget = GetWidget())
         widget->setFocusPolicy(static_cast<Qt::FocusPolicy>(policy));
 }

@@ -1,0 +1,194 @@
+// Clients may include the signal headers with Qt's keywords on: they must
+// neither break on Qt's empty `emit` macro nor remove it.
+#include <QtCore/QObject>
+
+#include "CommonUI.h"
+#include "UI/CKyUIObject.h"
+#include "UI/CKyUISignal.h"
+#include "UI/slimsig/detail/signal_base"
+
+#if !defined(emit) || !defined(slots) || !defined(signals)
+#error "the signal headers must leave Qt's keywords defined"
+#endif
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+// The test program sees Qt's keywords; the signal's operation is named emit.
+#pragma push_macro("emit")
+#undef emit
+
+// Connecting: identifiers, connections that fail, scoped connections.
+
+namespace {
+
+template <class Sig>
+using Signal = slimsig::signal_base<slimsig::signal_traits<Sig>, std::allocator<std::function<Sig>>, Sig>;
+
+using Log = std::vector<std::string>;
+
+template <class Sig>
+std::vector<std::uint64_t> pendingIds(const Signal<Sig>& signal)
+{
+    std::vector<std::uint64_t> ids;
+    for (const auto& slot : signal.pending_slots())
+        ids.push_back(slot.id);
+    return ids;
+}
+
+// The state every emission must leave behind.
+template <class Sig>
+void expectSettled(const Signal<Sig>& signal)
+{
+    EXPECT_EQ(signal.emission_depth(), 0u);
+    EXPECT_EQ(signal.pending_offset(), 0u);
+    EXPECT_EQ(signal.pending_size(), signal.slot_count());
+    for (const auto& slot : signal.pending_slots()) {
+        EXPECT_TRUE(slot.connected);
+        EXPECT_FALSE(slot.running);
+    }
+}
+
+TEST(SignalBase, IdentifiersCountFromZeroAndAreNeverReused)
+{
+    Signal<void()> signal;
+    auto first = signal.connect([] {});
+    auto second = signal.connect([] {});
+    EXPECT_EQ(first.id(), 0u);
+    EXPECT_EQ(second.id(), 1u);
+    first.disconnect();
+    EXPECT_EQ(signal.connect([] {}).id(), 2u);
+    // An empty callback uses up an identifier but is never connected.
+    auto empty = signal.connect(std::function<void()>());
+    EXPECT_EQ(empty.id(), 3u);
+    EXPECT_FALSE(empty.connected());
+    EXPECT_EQ(signal.slot_count(), 2u);
+    signal.emit();
+    expectSettled(signal);
+}
+
+// A capture whose copy fails on demand.
+struct CopyMayFail {
+    static bool fail;
+    CopyMayFail() = default;
+    CopyMayFail(const CopyMayFail&)
+    {
+        if (fail)
+            throw std::runtime_error("copy failed");
+    }
+    CopyMayFail& operator=(const CopyMayFail&) = default;
+};
+bool CopyMayFail::fail = false;
+
+TEST(SignalBase, ConnectThatCannotCopyARunningSlotFailsAndLosesNothing)
+{
+    Signal<void()> signal;
+    Log log;
+    int runs = 0;
+    int late = 0;
+    std::string failure;
+    signal.connect([&] { log.push_back("a"); });
+    signal.connect([&, capture = CopyMayFail()] {
+        static_cast<void>(capture);
+        log.push_back("b");
+        if (++runs > 1)
+            return;
+        // Fills the array; the connect that must move it copies this running
+        // slot, and that copy fails.
+        CopyMayFail::fail = true;
+        try {
+            for (; late < 1000; ++late)
+                signal.connect([&] { log.push_back("late"); });
+        } catch (const std::runtime_error& error) {
+            failure = error.what();
+        }
+        CopyMayFail::fail = false;
+    });
+    signal.connect([&] { log.push_back("c"); });
+    signal.emit();
+    EXPECT_EQ(failure, "copy failed");
+    EXPECT_EQ(log, (Log{"a", "b", "c"}));
+    EXPECT_EQ(signal.slot_count(), 3u + static_cast<unsigned>(late));
+    expectSettled(signal);
+    log.clear();
+    signal.emit();
+    Log expected{"a", "b", "c"};
+    expected.resize(expected.size() + static_cast<std::size_t>(late), "late");
+    EXPECT_EQ(log, expected);
+}
+
+TEST(SignalBase, ScopedConnectionDisconnectsWhenDestroyedOrReplaced)
+{
+    Signal<void()> signal;
+    int calls = 0;
+    {
+        Signal<void()>::scoped_connection scoped = signal.connect([&] { ++calls; });
+        signal.emit();
+        Signal<void()>::scoped_connection moved(std::move(scoped));
+        EXPECT_FALSE(scoped.connected());
+        EXPECT_TRUE(moved.connected());
+        signal.emit();
+    }
+    signal.emit();
+    EXPECT_EQ(calls, 2);
+
+    Signal<void()>::scoped_connection owner = signal.connect([&] { calls += 10; });
+    auto first = owner.get();
+    owner = signal.connect([&] { calls += 100; });
+    EXPECT_FALSE(first.connected());
+    auto released = owner.release();
+    {
+        Signal<void()>::scoped_connection empty;
+    }
+    EXPECT_TRUE(released.connected());
+    signal.emit();
+    EXPECT_EQ(calls, 102);
+}
+
+struct EightBitTraits {
+    using slot_id = std::uint8_t;
+};
+using SmallSignal = slimsig::signal_base<EightBitTraits, std::allocator<std::function<void()>>, void()>;
+
+TEST(SignalBaseDeathTest, ExhaustedIdentifiersStopTheProcess)
+{
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    SmallSignal signal;
+    for (int i = 0; i < 254; ++i)
+        signal.connect([] {});
+    EXPECT_EQ(signal.slot_count(), 254u);
+    EXPECT_DEATH(signal.connect([] {}), "All available slot ids for this signal have been exhausted\\. "
+                                        "This may be a sign you are misusing signals\" failed in "
+                                        "prepare_connection at .*signal_base:338");
+}
+
+} // namespace
+
+#pragma pop_macro("emit")
+
+TEST(SignalKeywords, HeadersCompileWithQtKeywordsAndLeaveThemDefined)
+{
+    CKyUIObject owner;
+    CKyUISignal<void(int)> signal(&owner);
+    int sum = 0;
+    signal.connect([&](int v) { sum += v; });
+
+    emit signal.Emit(1); // Qt's keyword still expands to nothing
+
+#pragma push_macro("emit")
+#undef emit
+    signal.emit(10);
+#pragma pop_macro("emit")
+
+    EXPECT_EQ(sum, 11);
+}
+
+#ifndef emit
+#error "emit must be defined again after the call"
+#endif
