@@ -6,7 +6,7 @@
 #include "NA/ClosedPort.h"
 #include "NA/EventWait.h"
 #include "NA/HttpTestServer.h"
-#include "NA/ReplyRecorder.h"
+#include "NA/NetworkSignals.h"
 
 #include <QtCore/QBuffer>
 #include <QtCore/QPointer>
@@ -30,9 +30,9 @@ protected:
     void SetUp() override { ASSERT_TRUE(server.isListening()); }
 
     // Runs until the reply finished; false if it did not within the bound.
-    static bool waitFinished(const ReplyRecorder& recorder)
+    static bool waitFinished(const Recorder& recorder)
     {
-        return waitUntil([&] { return recorder.isFinished(); });
+        return waitUntil([&] { return recorder.has(QStringLiteral("finished")); });
     }
 
     HttpTestServer server;
@@ -52,11 +52,12 @@ TEST_F(NetworkAccessManager, GetFinishesWithStatusBodyAndRawHeaderBytes)
     request.setRawHeader("X-Client", "plug-in");
     std::unique_ptr<CKyNANetworkReply> reply(manager.get(request));
     ASSERT_TRUE(reply);
-    ReplyRecorder recorder(reply.get());
+    Recorder recorder;
+    RecordReply(recorder, reply.get());
     EXPECT_TRUE(reply->isRunning());
 
     ASSERT_TRUE(waitFinished(recorder));
-    EXPECT_EQ(recorder.log, QStringList{QStringLiteral("finished")});
+    EXPECT_EQ(Outcome(recorder), QStringList{QStringLiteral("finished")});
     EXPECT_TRUE(reply->isFinished());
     EXPECT_FALSE(reply->isRunning());
     EXPECT_EQ(errorCode(*reply), CKyNANetworkReply::NoError);
@@ -109,14 +110,15 @@ TEST_F(NetworkAccessManager, PostPutAndDeleteReachTheServerAsSent)
         SCOPED_TRACE(c.method.constData());
         std::unique_ptr<CKyNANetworkReply> reply(c.start());
         ASSERT_TRUE(reply);
-        ReplyRecorder recorder(reply.get());
+        Recorder recorder;
+        RecordReply(recorder, reply.get());
         ASSERT_TRUE(waitFinished(recorder));
-        EXPECT_EQ(recorder.log, QStringList{QStringLiteral("finished")});
+        EXPECT_EQ(Outcome(recorder), QStringList{QStringLiteral("finished")});
         EXPECT_EQ(reply->rawHeader("X-Echo-Method"), c.method);
         EXPECT_EQ(reply->readAll(), c.body);
-        EXPECT_GT(recorder.downloads, 0);
+        EXPECT_GT(recorder.count(QStringLiteral("downloadProgress")), 0);
         if (!c.body.isEmpty()) {
-            EXPECT_GT(recorder.uploads, 0);
+            EXPECT_GT(recorder.count(QStringLiteral("uploadProgress")), 0);
         }
 
         const HttpTestRequest& received = server.requests().last();
@@ -148,9 +150,10 @@ TEST_F(NetworkAccessManager, RefusedConnectionReportsErrorThenFinished)
     ASSERT_TRUE(refused.isValid());
     CKyNANetworkRequest request(refused.url());
     std::unique_ptr<CKyNANetworkReply> reply(manager.get(request));
-    ReplyRecorder recorder(reply.get());
+    Recorder recorder;
+    RecordReply(recorder, reply.get());
     ASSERT_TRUE(waitFinished(recorder));
-    EXPECT_EQ(recorder.log, (QStringList{QStringLiteral("error:1"), QStringLiteral("finished")}));
+    EXPECT_EQ(Outcome(recorder), (QStringList{QStringLiteral("error:1"), QStringLiteral("finished")}));
     EXPECT_EQ(errorCode(*reply), CKyNANetworkReply::ConnectionRefusedError);
     EXPECT_FALSE(reply->errorString().isEmpty());
 }
@@ -163,9 +166,10 @@ TEST_F(NetworkAccessManager, ServerClosingWithoutAnswerReportsRemoteHostClosed)
 
     CKyNANetworkRequest request(server.url(QStringLiteral("/hang-up")));
     std::unique_ptr<CKyNANetworkReply> reply(manager.get(request));
-    ReplyRecorder recorder(reply.get());
+    Recorder recorder;
+    RecordReply(recorder, reply.get());
     ASSERT_TRUE(waitFinished(recorder));
-    EXPECT_EQ(recorder.log, (QStringList{QStringLiteral("error:2"), QStringLiteral("finished")}));
+    EXPECT_EQ(Outcome(recorder), (QStringList{QStringLiteral("error:2"), QStringLiteral("finished")}));
     EXPECT_EQ(errorCode(*reply), CKyNANetworkReply::RemoteHostClosedError);
     EXPECT_FALSE(reply->attribute(CKyNANetworkRequest::HttpStatusCodeAttribute).isValid());
     EXPECT_TRUE(reply->rawHeaderList().isEmpty());
@@ -177,9 +181,10 @@ TEST_F(NetworkAccessManager, HttpErrorStatusStillDeliversStatusAndBody)
     // No route: the server answers 404 with a body.
     CKyNANetworkRequest request(server.url(QStringLiteral("/missing")));
     std::unique_ptr<CKyNANetworkReply> reply(manager.get(request));
-    ReplyRecorder recorder(reply.get());
+    Recorder recorder;
+    RecordReply(recorder, reply.get());
     ASSERT_TRUE(waitFinished(recorder));
-    EXPECT_EQ(recorder.log, (QStringList{QStringLiteral("error:203"), QStringLiteral("finished")}));
+    EXPECT_EQ(Outcome(recorder), (QStringList{QStringLiteral("error:203"), QStringLiteral("finished")}));
     EXPECT_EQ(reply->attribute(CKyNANetworkRequest::HttpStatusCodeAttribute).toInt(), 404);
     EXPECT_EQ(reply->readAll(), QByteArray("no route"));
 }
@@ -243,8 +248,9 @@ TEST_F(NetworkAccessManager, RequestsWithoutToolkitRequestOrUrl)
     request.setHandle(taken);
 
     std::unique_ptr<CKyNANetworkReply> reply(manager.get(CKyNANetworkRequest{QUrl()}));
-    ReplyRecorder recorder(reply.get());
-    ASSERT_TRUE(waitUntil([&] { return recorder.isFinished(); }));
-    EXPECT_EQ(recorder.log, (QStringList{QStringLiteral("error:%1").arg(int(CKyNANetworkReply::ProtocolUnknownError)),
+    Recorder recorder;
+    RecordReply(recorder, reply.get());
+    ASSERT_TRUE(waitUntil([&] { return recorder.has(QStringLiteral("finished")); }));
+    EXPECT_EQ(Outcome(recorder), (QStringList{QStringLiteral("error:%1").arg(int(CKyNANetworkReply::ProtocolUnknownError)),
                                          QStringLiteral("finished")}));
 }

@@ -5,7 +5,7 @@
 
 #include "NA/EventWait.h"
 #include "NA/HttpTestServer.h"
-#include "NA/ReplyRecorder.h"
+#include "NA/NetworkSignals.h"
 
 #include <QtCore/QPointer>
 #include <QtNetwork/QNetworkReply>
@@ -40,8 +40,9 @@ protected:
         route.body = body;
         server.setRoute("/", route);
         std::unique_ptr<CKyNANetworkReply> reply(manager.get(request));
-        ReplyRecorder recorder(reply.get());
-        EXPECT_TRUE(waitUntil([&] { return recorder.isFinished(); }));
+        Recorder recorder;
+        RecordReply(recorder, reply.get());
+        EXPECT_TRUE(waitUntil([&] { return recorder.has(QStringLiteral("finished")); }));
         return reply;
     }
 
@@ -61,7 +62,8 @@ TEST_F(NetworkReply, NothingIsReadableBeforeTheTransferEnds)
     server.setRoute("/", half);
 
     std::unique_ptr<CKyNANetworkReply> reply(manager.get(request));
-    ReplyRecorder recorder(reply.get());
+    Recorder recorder;
+    RecordReply(recorder, reply.get());
     auto* toolkit = qobject_cast<QNetworkReply*>(reply->getHandle());
     ASSERT_TRUE(toolkit);
     // Half of the body has arrived in the toolkit reply...
@@ -81,8 +83,8 @@ TEST_F(NetworkReply, NothingIsReadableBeforeTheTransferEnds)
     EXPECT_TRUE(reply->readAll().isEmpty());
 
     reply->abort();
-    ASSERT_TRUE(waitUntil([&] { return recorder.isFinished(); }));
-    EXPECT_EQ(recorder.log, (QStringList{QStringLiteral("error:5"), QStringLiteral("finished")}));
+    ASSERT_TRUE(waitUntil([&] { return recorder.has(QStringLiteral("finished")); }));
+    EXPECT_EQ(Outcome(recorder), (QStringList{QStringLiteral("error:5"), QStringLiteral("finished")}));
     EXPECT_TRUE(reply->isFinished());
     EXPECT_EQ(errorCode(*reply), CKyNANetworkReply::OperationCanceledError);
     EXPECT_EQ(reply->rawHeader("Content-Type"), QByteArray("text/plain"));
@@ -127,13 +129,14 @@ TEST_F(NetworkReply, BlockedSignalsStayQuietButTheFinishIsRecorded)
     server.setRoute("/", route);
 
     std::unique_ptr<CKyNANetworkReply> reply(manager.get(request));
-    ReplyRecorder recorder(reply.get());
+    Recorder recorder;
+    RecordReply(recorder, reply.get());
     reply->blockSignals(true);
     QSignalSpy toolkitFinished(qobject_cast<QNetworkReply*>(reply->getHandle()), &QNetworkReply::finished);
     ASSERT_TRUE(toolkitFinished.wait(5000));
 
-    EXPECT_TRUE(recorder.log.isEmpty());
-    EXPECT_EQ(recorder.downloads, 0);
+    EXPECT_TRUE(Outcome(recorder).isEmpty());
+    EXPECT_EQ(recorder.count(QStringLiteral("downloadProgress")), 0);
     EXPECT_TRUE(reply->isFinished());
     EXPECT_EQ(reply->rawHeader("X-Kept"), QByteArray("yes"));
     EXPECT_EQ(reply->readAll(), QByteArray("quiet"));

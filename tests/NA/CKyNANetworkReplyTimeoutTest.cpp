@@ -5,7 +5,7 @@
 
 #include "NA/EventWait.h"
 #include "NA/HttpTestServer.h"
-#include "NA/ReplyRecorder.h"
+#include "NA/NetworkSignals.h"
 
 #include <QtCore/QAbstractEventDispatcher>
 #include <QtCore/QTimer>
@@ -64,10 +64,11 @@ protected:
 TEST_F(ReplyTimeout, StalledServerIsAbortedWithCancellationThenFinish)
 {
     auto reply = start(QStringLiteral("/stall"), 200);
-    ReplyRecorder recorder(reply.get());
-    ASSERT_TRUE(waitUntil([&] { return recorder.isFinished(); }, 5000));
+    Recorder recorder;
+    RecordReply(recorder, reply.get());
+    ASSERT_TRUE(waitUntil([&] { return recorder.has(QStringLiteral("finished")); }, 5000));
 
-    EXPECT_EQ(recorder.log, (QStringList{QStringLiteral("error:5"), QStringLiteral("finished")}));
+    EXPECT_EQ(Outcome(recorder), (QStringList{QStringLiteral("error:5"), QStringLiteral("finished")}));
     EXPECT_TRUE(reply->isFinished());
     EXPECT_EQ(errorCode(*reply), CKyNANetworkReply::OperationCanceledError);
     ASSERT_EQ(server.requests().size(), 1);
@@ -81,13 +82,14 @@ TEST_F(ReplyTimeout, ProgressDoesNotPostponeTheAbort)
     server.setRoute("/trickle", trickle);
 
     auto reply = start(QStringLiteral("/trickle"), 200);
-    ReplyRecorder recorder(reply.get());
+    Recorder recorder;
+    RecordReply(recorder, reply.get());
     QSignalSpy arrivals(reply->getHandle(), SIGNAL(readyRead()));
-    ASSERT_TRUE(waitUntil([&] { return recorder.isFinished(); }, 5000));
+    ASSERT_TRUE(waitUntil([&] { return recorder.has(QStringLiteral("finished")); }, 5000));
 
     // Bytes kept arriving every 20 ms; the time-out bounds the whole transfer.
     EXPECT_GT(arrivals.count(), 1);
-    EXPECT_EQ(recorder.log, (QStringList{QStringLiteral("error:5"), QStringLiteral("finished")}));
+    EXPECT_EQ(Outcome(recorder), (QStringList{QStringLiteral("error:5"), QStringLiteral("finished")}));
 }
 
 TEST_F(ReplyTimeout, FinishedTransferIsNotAbortedLater)
@@ -101,16 +103,17 @@ TEST_F(ReplyTimeout, FinishedTransferIsNotAbortedLater)
     QTimer witness;
     witness.setSingleShot(true);
     witness.start(230);
-    ReplyRecorder recorder(reply.get());
+    Recorder recorder;
+    RecordReply(recorder, reply.get());
     CKyNANetworkReplyTimeout* guard = guardOf(*reply);
     ASSERT_TRUE(guard);
-    ASSERT_TRUE(waitUntil([&] { return recorder.isFinished(); }));
+    ASSERT_TRUE(waitUntil([&] { return recorder.has(QStringLiteral("finished")); }));
 
     // Stopped by the finish, before the reply's own handlers ran.
     EXPECT_FALSE(guard->isActive());
     EXPECT_EQ(armedInterval(guard), -1);
     ASSERT_TRUE(waitUntil([&] { return !witness.isActive(); }));
-    EXPECT_EQ(recorder.log, QStringList{QStringLiteral("finished")});
+    EXPECT_EQ(Outcome(recorder), QStringList{QStringLiteral("finished")});
     EXPECT_EQ(errorCode(*reply), CKyNANetworkReply::NoError);
     EXPECT_EQ(reply->readAll(), QByteArray("in time"));
 }

@@ -2,6 +2,7 @@
 #include "NA/CKyNANetworkRequest.h"
 
 #include "NA/EventWait.h"
+#include "NA/NetworkSignals.h"
 #include "NA/HttpTestServer.h"
 #include "NA/WebSocketTestServer.h"
 
@@ -17,29 +18,14 @@
 namespace
 {
 
-// What a web socket reports, in order: "connected", "error:<code>",
-// "disconnected" and "text:<message>".
-struct SocketRecorder
-{
-    QStringList log;
-
-    explicit SocketRecorder(CKyNAWebSocket& socket)
-    {
-        socket.connected().connect([this] { log << QStringLiteral("connected"); });
-        socket.error().connect([this](int code) { log << QStringLiteral("error:%1").arg(code); });
-        socket.disconnected().connect([this] { log << QStringLiteral("disconnected"); });
-        socket.textMessageReceived().connect(
-            [this](const QString& message) { log << QStringLiteral("text:") + message; });
-    }
-
-    bool has(const QString& entry) const { return log.contains(entry); }
-    bool hasError() const { return !log.filter(QStringLiteral("error:")).isEmpty(); }
-};
-
 class WebSocket : public ::testing::Test
 {
 protected:
-    void SetUp() override { ASSERT_TRUE(server.isListening()); }
+    void SetUp() override
+    {
+        ASSERT_TRUE(server.isListening());
+        RecordSocket(recorder, socket);
+    }
     // The recorder goes before the socket, which may still report as it goes.
     void TearDown() override { socket.blockSignals(true); }
 
@@ -53,7 +39,7 @@ protected:
 
     WebSocketTestServer server;
     CKyNAWebSocket socket{QStringLiteral("http://plug-in.test"), CKyNAWebSocketProtocol::VersionLatest};
-    SocketRecorder recorder{socket};
+    Recorder recorder;
 };
 
 } // namespace
@@ -68,7 +54,7 @@ TEST_F(WebSocket, TextMessagesArriveInOrderAndBinaryOnesAreNotReported)
     server.sendText(QStringLiteral("two"));
     server.sendText(QStringLiteral("three"));
     ASSERT_TRUE(waitUntil([this] { return recorder.has(QStringLiteral("text:three")); }));
-    EXPECT_EQ(recorder.log, (QStringList{QStringLiteral("connected"), QStringLiteral("text:one"),
+    EXPECT_EQ(Outcome(recorder), (QStringList{QStringLiteral("connected"), QStringLiteral("text:one"),
                                          QStringLiteral("text:two"), QStringLiteral("text:three")}));
 }
 
@@ -77,7 +63,7 @@ TEST_F(WebSocket, ClosingWithNormalCodeLeadsToDisconnected)
     ASSERT_TRUE(openOnServer());
     socket.close(CKyNAWebSocketProtocol::CloseCodeNormal, QStringLiteral("done here"));
     ASSERT_TRUE(waitUntil([this] { return recorder.has(QStringLiteral("disconnected")); }));
-    EXPECT_EQ(recorder.log, (QStringList{QStringLiteral("connected"), QStringLiteral("disconnected")}));
+    EXPECT_EQ(Outcome(recorder), (QStringList{QStringLiteral("connected"), QStringLiteral("disconnected")}));
 
     ASSERT_TRUE(waitUntil([this] { return server.disconnections() == 1; }));
     EXPECT_EQ(server.peerCloseCode(), 1000);
@@ -92,7 +78,7 @@ TEST_F(WebSocket, ServerClosingWithACodeLeadsToDisconnected)
     auto* toolkit = qobject_cast<QWebSocket*>(socket.getHandle());
     ASSERT_TRUE(toolkit);
     EXPECT_EQ(toolkit->closeCode(), QWebSocketProtocol::CloseCodeGoingAway);
-    EXPECT_FALSE(recorder.hasError());
+    EXPECT_EQ(recorder.count(QStringLiteral("error")), 0);
 }
 
 TEST_F(WebSocket, UrlThatIsNoWebSocketReportsAnErrorAndNeverConnects)
@@ -100,17 +86,18 @@ TEST_F(WebSocket, UrlThatIsNoWebSocketReportsAnErrorAndNeverConnects)
     // A wrong scheme is refused inside open() itself.
     CKyNANetworkRequest wrongScheme(QUrl(QStringLiteral("http://127.0.0.1:1/")));
     socket.open(wrongScheme);
-    EXPECT_EQ(recorder.log,
+    EXPECT_EQ(Outcome(recorder),
               QStringList{QStringLiteral("error:%1").arg(QAbstractSocket::UnsupportedSocketOperationError)});
 
     // A plain HTTP server refuses the handshake.
     HttpTestServer http;
     CKyNAWebSocket other(QString(), CKyNAWebSocketProtocol::VersionLatest);
-    SocketRecorder otherRecorder(other);
+    Recorder otherRecorder;
+    RecordSocket(otherRecorder, other);
     QUrl url = http.url(QStringLiteral("/"));
     url.setScheme(QStringLiteral("ws"));
     other.open(CKyNANetworkRequest(url));
-    ASSERT_TRUE(waitUntil([&] { return otherRecorder.hasError(); }));
+    ASSERT_TRUE(waitUntil([&] { return otherRecorder.count(QStringLiteral("error")) > 0; }));
     EXPECT_FALSE(otherRecorder.has(QStringLiteral("connected")));
     EXPECT_FALSE(recorder.has(QStringLiteral("connected")));
     other.blockSignals(true);
@@ -127,13 +114,14 @@ TEST_F(WebSocket, BlockedSignalsDropMessagesInsteadOfQueueingThem)
     socket.blockSignals(false);
     server.sendText(QStringLiteral("kept"));
     ASSERT_TRUE(waitUntil([this] { return recorder.has(QStringLiteral("text:kept")); }));
-    EXPECT_EQ(recorder.log, (QStringList{QStringLiteral("connected"), QStringLiteral("text:kept")}));
+    EXPECT_EQ(Outcome(recorder), (QStringList{QStringLiteral("connected"), QStringLiteral("text:kept")}));
 }
 
 TEST_F(WebSocket, RequestNeedNotOutliveOpenAndSocketGoesAtOnce)
 {
     auto owned = std::make_unique<CKyNAWebSocket>(QString(), CKyNAWebSocketProtocol::VersionLatest);
-    SocketRecorder ownedRecorder(*owned);
+    Recorder ownedRecorder;
+    RecordSocket(ownedRecorder, *owned);
     {
         CKyNANetworkRequest request(server.url());
         owned->open(request);

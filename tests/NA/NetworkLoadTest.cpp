@@ -5,7 +5,7 @@
 
 #include "NA/EventWait.h"
 #include "NA/HttpTestServer.h"
-#include "NA/ReplyRecorder.h"
+#include "NA/NetworkSignals.h"
 #include "NA/WebSocketTestServer.h"
 
 #include <QtCore/QPointer>
@@ -70,7 +70,7 @@ TEST_F(NetworkLoad, FiveHundredConcurrentGetsAllFinishIntactAndLeaveNoReplyBehin
 
     struct Result
     {
-        QStringList log;
+        Recorder log;
         QByteArray body;
         bool deleted = false;
     };
@@ -79,13 +79,11 @@ TEST_F(NetworkLoad, FiveHundredConcurrentGetsAllFinishIntactAndLeaveNoReplyBehin
     for (int i = 0; i < count; ++i) {
         CKyNANetworkReply* reply = manager.get(*requests[i]);
         ASSERT_TRUE(reply);
-        reply->error().connect([&results, i](CKyNANetworkReply::NetworkError code) {
-            results[i].log << QStringLiteral("error:%1").arg(int(code));
-        });
+        results[i].log.on(reply->error(), QStringLiteral("error"));
         // Read at the finish; deleted there and then (every other one) or on
         // the next pass of the event loop, while the other transfers go on.
         reply->finished().connect([&results, &deleted, reply, i] {
-            results[i].log << QStringLiteral("finished");
+            results[i].log.add(QStringLiteral("finished"));
             results[i].body = reply->readAll();
             // A copy of its own: the slot's captures go with the reply.
             const auto deleteReply = [&results, &deleted, reply, i] {
@@ -104,7 +102,7 @@ TEST_F(NetworkLoad, FiveHundredConcurrentGetsAllFinishIntactAndLeaveNoReplyBehin
     ASSERT_TRUE(waitUntil([&] { return deleted == count; }, 60000));
     for (int i = 0; i < count; ++i) {
         SCOPED_TRACE(i);
-        EXPECT_EQ(results[i].log, QStringList{QStringLiteral("finished")});
+        EXPECT_EQ(results[i].log.lines, QStringList{QStringLiteral("finished")});
         EXPECT_EQ(results[i].body, patternBody(i, 200 + 37 * (i % 50)));
         EXPECT_TRUE(results[i].deleted);
     }
@@ -123,11 +121,12 @@ TEST_F(NetworkLoad, TenMegabyteBodyArrivesIntact)
 
     CKyNANetworkRequest request(server.url(QStringLiteral("/big")));
     std::unique_ptr<CKyNANetworkReply> reply(manager.get(request));
-    ReplyRecorder recorder(reply.get());
-    ASSERT_TRUE(waitUntil([&] { return recorder.isFinished(); }, 30000));
+    Recorder recorder;
+    RecordReply(recorder, reply.get());
+    ASSERT_TRUE(waitUntil([&] { return recorder.has(QStringLiteral("finished")); }, 30000));
 
-    EXPECT_EQ(recorder.log, QStringList{QStringLiteral("finished")});
-    EXPECT_EQ(recorder.lastReceived, big.body.size());
+    EXPECT_EQ(Outcome(recorder), QStringList{QStringLiteral("finished")});
+    EXPECT_EQ(recorder.last(QStringLiteral("downloadProgress")).section(QLatin1Char(','), 0, 0).toLongLong(), big.body.size());
     EXPECT_EQ(reply->bytesAvailable(), big.body.size());
     const QByteArray body = reply->readAll();
     EXPECT_EQ(body.size(), big.body.size());

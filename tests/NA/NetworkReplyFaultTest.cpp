@@ -5,7 +5,7 @@
 #include "NA/ClosedPort.h"
 #include "NA/EventWait.h"
 #include "NA/HttpTestServer.h"
-#include "NA/ReplyRecorder.h"
+#include "NA/NetworkSignals.h"
 
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QPointer>
@@ -78,9 +78,10 @@ TEST_F(NetworkReplyFault, EachFaultGivesItsErrorThenFinishedBeforeTheTimeout)
         request.setRequestTimeout(timeout);
         std::unique_ptr<CKyNANetworkReply> reply(manager.get(request));
         ASSERT_TRUE(reply);
-        ReplyRecorder recorder(reply.get());
-        ASSERT_TRUE(waitUntil([&] { return recorder.isFinished(); }, timeout));
-        EXPECT_EQ(recorder.log,
+        Recorder recorder;
+        RecordReply(recorder, reply.get());
+        ASSERT_TRUE(waitUntil([&] { return recorder.has(QStringLiteral("finished")); }, timeout));
+        EXPECT_EQ(Outcome(recorder),
                   (QStringList{QStringLiteral("error:%1").arg(int(c.error)), QStringLiteral("finished")}));
         EXPECT_EQ(errorCode(*reply), c.error);
         EXPECT_TRUE(reply->isFinished());
@@ -100,7 +101,7 @@ TEST_F(NetworkReplyFault, StalledServerEndsEachReplyAtItsOwnTimeout)
     {
         std::unique_ptr<CKyNANetworkRequest> request;
         std::unique_ptr<CKyNANetworkReply> reply;
-        std::unique_ptr<ReplyRecorder> recorder;
+        std::unique_ptr<Recorder> recorder = std::make_unique<Recorder>();
         qint64 endedAfter = -1;
     };
     QList<int> endOrder;
@@ -112,7 +113,7 @@ TEST_F(NetworkReplyFault, StalledServerEndsEachReplyAtItsOwnTimeout)
         t.request = std::make_unique<CKyNANetworkRequest>(server.url(QStringLiteral("/stall")));
         t.request->setRequestTimeout(timeouts[i]);
         t.reply.reset(manager.get(*t.request));
-        t.recorder = std::make_unique<ReplyRecorder>(t.reply.get());
+        RecordReply(*t.recorder, t.reply.get());
         t.reply->finished().connect([&, i] {
             transfers[i].endedAfter = clock.elapsed();
             endOrder << timeouts[i];
@@ -125,7 +126,7 @@ TEST_F(NetworkReplyFault, StalledServerEndsEachReplyAtItsOwnTimeout)
     for (int i = 0; i < 3; ++i) {
         SCOPED_TRACE(timeouts[i]);
         const Transfer& t = transfers[i];
-        EXPECT_EQ(t.recorder->log, (QStringList{QStringLiteral("error:5"), QStringLiteral("finished")}));
+        EXPECT_EQ(Outcome(*t.recorder), (QStringList{QStringLiteral("error:5"), QStringLiteral("finished")}));
         // Generous: coarse timers may fire a little early, a busy machine late.
         EXPECT_GE(t.endedAfter, timeouts[i] * 9 / 10);
         EXPECT_LT(t.endedAfter, timeouts[i] + 5000);

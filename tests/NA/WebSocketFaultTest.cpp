@@ -2,6 +2,7 @@
 #include "NA/CKyNAWebSocket.h"
 
 #include "NA/EventWait.h"
+#include "NA/NetworkSignals.h"
 #include "NA/WebSocketTestServer.h"
 
 #include <QtCore/QPointer>
@@ -15,23 +16,6 @@
 namespace
 {
 
-// What a socket reported, kept apart from the socket so that it can be read
-// after the socket is gone.
-struct SocketLog
-{
-    QStringList entries;
-    int messages = 0;
-
-    void attach(CKyNAWebSocket& socket)
-    {
-        socket.connected().connect([this] { entries << QStringLiteral("connected"); });
-        socket.error().connect([this](int) { entries << QStringLiteral("error"); });
-        socket.disconnected().connect([this] { entries << QStringLiteral("disconnected"); });
-        socket.textMessageReceived().connect([this](const QString&) { ++messages; });
-    }
-    bool has(const char* entry) const { return entries.contains(QLatin1String(entry)); }
-};
-
 } // namespace
 
 TEST(WebSocketFault, ServerAbortingTheConnectionGivesDisconnected)
@@ -39,18 +23,18 @@ TEST(WebSocketFault, ServerAbortingTheConnectionGivesDisconnected)
     WebSocketTestServer server;
     ASSERT_TRUE(server.isListening());
     CKyNAWebSocket socket(QString(), CKyNAWebSocketProtocol::VersionLatest);
-    SocketLog log;
-    log.attach(socket);
+    Recorder log;
+    RecordSocket(log, socket);
     socket.open(CKyNANetworkRequest(server.url()));
-    ASSERT_TRUE(waitUntil([&] { return log.has("connected") && server.peer(); }));
+    ASSERT_TRUE(waitUntil([&] { return log.has(QStringLiteral("connected")) && server.peer(); }));
 
     server.sendText(QStringLiteral("before"));
-    ASSERT_TRUE(waitUntil([&] { return log.messages == 1; }));
+    ASSERT_TRUE(waitUntil([&] { return log.count(QStringLiteral("text")) == 1; }));
     // No closing handshake: the connection just drops.
     server.abort();
-    ASSERT_TRUE(waitUntil([&] { return log.has("disconnected"); }));
-    EXPECT_EQ(log.entries.first(), QStringLiteral("connected"));
-    EXPECT_EQ(log.entries.count(QStringLiteral("disconnected")), 1);
+    ASSERT_TRUE(waitUntil([&] { return log.has(QStringLiteral("disconnected")); }));
+    EXPECT_EQ(log.lines.first(), QStringLiteral("connected"));
+    EXPECT_EQ(log.count(QStringLiteral("disconnected")), 1);
     socket.blockSignals(true);
 }
 
@@ -59,10 +43,10 @@ TEST(WebSocketFault, DeletingAConnectedSocketWhileMessagesFlowReachesNothingFree
     WebSocketTestServer server;
     ASSERT_TRUE(server.isListening());
     auto socket = std::make_unique<CKyNAWebSocket>(QString(), CKyNAWebSocketProtocol::VersionLatest);
-    SocketLog log;
-    log.attach(*socket);
+    Recorder log;
+    RecordSocket(log, *socket);
     socket->open(CKyNANetworkRequest(server.url()));
-    ASSERT_TRUE(waitUntil([&] { return log.has("connected") && server.peer(); }));
+    ASSERT_TRUE(waitUntil([&] { return log.has(QStringLiteral("connected")) && server.peer(); }));
 
     // The server keeps sending while the socket goes.
     QTimer flood;
@@ -71,18 +55,16 @@ TEST(WebSocketFault, DeletingAConnectedSocketWhileMessagesFlowReachesNothingFree
             server.sendText(QStringLiteral("more"));
     });
     flood.start(1);
-    ASSERT_TRUE(waitUntil([&] { return log.messages > 100; }));
+    ASSERT_TRUE(waitUntil([&] { return log.count(QStringLiteral("text")) > 100; }));
 
     QPointer<QObject> toolkit = socket->getHandle();
     socket.reset();
     EXPECT_TRUE(toolkit.isNull());
-    const QStringList entries = log.entries;
-    const int messages = log.messages;
+    const QStringList entries = log.lines;
 
     ASSERT_TRUE(waitUntil([&] { return server.disconnections() == 1; }));
     flood.stop();
-    EXPECT_EQ(log.entries, entries);
-    EXPECT_EQ(log.messages, messages);
+    EXPECT_EQ(log.lines, entries);
 }
 
 // A plug-in may delete the socket from inside one of the socket's own slots:
