@@ -36,56 +36,6 @@ TEST(CKyUILabelTest, CreatesAPlainLabelWithAnEmptyRuleOfItsClass)
     EXPECT_EQ(widget->text(), "Length");
 }
 
-TEST(CKyUILabelTest, FontSizeIsReplacedUnlessItsValueHoldsAZero)
-{
-    CKyUILabel label;
-    label.setFontSize(14);
-    label.setBoldText(true);
-    EXPECT_EQ(LabelOf(label)->styleSheet(), "QLabel { font-size:14px;font-weight: bold;}");
-
-    CKyUILabel same;
-    same.setFontSize(12);
-    same.setFontSize(12);
-    EXPECT_EQ(LabelOf(same)->styleSheet(), "QLabel { font-size:12px;}");
-
-    // 10 is never matched again, so the sheet grows by one declaration per call.
-    CKyUILabel ten;
-    ten.setFontSize(10);
-    ten.setFontSize(12);
-    ten.setFontSize(13);
-    EXPECT_EQ(LabelOf(ten)->styleSheet(), "QLabel { font-size:10px;font-size:13px;}");
-
-    // Nor is a minus sign.
-    CKyUILabel negative;
-    negative.setFontSize(-3);
-    negative.setFontSize(9);
-    EXPECT_EQ(LabelOf(negative)->styleSheet(), "QLabel { font-size:-3px;font-size:9px;}");
-}
-
-TEST(CKyUILabelTest, BoldIsReplacedAndAdmitsDigitsOneToNine)
-{
-    CKyUILabel fresh;
-    fresh.setBoldText(false);
-    EXPECT_EQ(LabelOf(fresh)->styleSheet(), "QLabel { font-weight: normal;}");
-
-    CKyUILabel toggled;
-    toggled.setBoldText(true);
-    toggled.setBoldText(false);
-    EXPECT_EQ(LabelOf(toggled)->styleSheet(), "QLabel { font-weight: normal;}");
-
-    // Unlike the push button's pattern: 9 matches, 600 (zeros) does not.
-    CKyUILabel numeric;
-    LabelOf(numeric)->setStyleSheet("QLabel { font-weight: 600; } QLabel:hover { font-weight: 9; }");
-    numeric.setBoldText(true);
-    EXPECT_EQ(LabelOf(numeric)->styleSheet(),
-              "QLabel { font-weight: 600; } QLabel:hover {  font-weight: bold;}");
-
-    CKyUILabel braceless;
-    LabelOf(braceless)->setStyleSheet("color: red;");
-    braceless.setFontSize(11);
-    EXPECT_EQ(LabelOf(braceless)->styleSheet(), "color: red;font-size:11px;");
-}
-
 TEST(CKyUILabelTest, ClearEmptiesTheTextAndKeepsTheStoredIcon)
 {
     CKyUILabel label;

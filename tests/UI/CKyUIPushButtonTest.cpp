@@ -102,60 +102,6 @@ TEST(CKyUIPushButtonTest, BlockedSignalsSilenceClicksButKeepTheSlot)
     EXPECT_EQ(subject.clicks, std::vector<bool>{true});
 }
 
-TEST(CKyUIPushButtonTest, AlignmentIsReplacedNotAccumulated)
-{
-    CKyUIPushButton button;
-    button.setTextAlignment(CKyUIPushButton::Left);
-    EXPECT_EQ(FrontendOf(button)->styleSheet(), "QPushButton { text-align:left;}");
-    button.setTextAlignment(CKyUIPushButton::Center);
-    EXPECT_EQ(FrontendOf(button)->styleSheet(), "QPushButton { text-align:center;}");
-    button.setTextAlignment(CKyUIPushButton::Right);
-    EXPECT_EQ(FrontendOf(button)->styleSheet(), "QPushButton { text-align:right;}");
-
-    // Out of range: the old alignment goes and nothing takes its place.
-    button.setTextAlignment(static_cast<CKyUIPushButton::TextAlignment>(7));
-    EXPECT_EQ(FrontendOf(button)->styleSheet(), "QPushButton { }");
-
-    // Blanks and tabs around the colon are matched too.
-    FrontendOf(button)->setStyleSheet("QPushButton { text-align \t: \tright ; color: red; }");
-    button.setTextAlignment(CKyUIPushButton::Left);
-    EXPECT_EQ(FrontendOf(button)->styleSheet(), "QPushButton {  color: red; text-align:left;}");
-
-    // Without a brace the declaration is appended.
-    FrontendOf(button)->setStyleSheet("color: red;");
-    button.setTextAlignment(CKyUIPushButton::Center);
-    EXPECT_EQ(FrontendOf(button)->styleSheet(), "color: red;text-align:center;");
-}
-
-TEST(CKyUIPushButtonTest, BoldIsReplacedButNumericWeightsStay)
-{
-    CKyUIPushButton button;
-    button.setBoldText(true);
-    EXPECT_EQ(FrontendOf(button)->styleSheet(), "QPushButton { font-weight: bold;}");
-    button.setBoldText(false);
-    EXPECT_EQ(FrontendOf(button)->styleSheet(), "QPushButton { font-weight: normal;}");
-
-    // No digit is in the pattern at all, not even 1 to 9.
-    FrontendOf(button)->setStyleSheet("QPushButton { font-weight: 600; }");
-    button.setBoldText(true);
-    EXPECT_EQ(FrontendOf(button)->styleSheet(), "QPushButton { font-weight: 600; font-weight: bold;}");
-}
-
-TEST(CKyUIPushButtonTest, RewritesGoBeforeTheLastBraceOfTheWholeSheet)
-{
-    CKyUIPushButton button;
-    button.setBorderWidth(2);
-    button.setTextAlignment(CKyUIPushButton::Left);
-    button.setBoldText(true);
-    EXPECT_EQ(FrontendOf(button)->styleSheet(),
-              "QPushButton { border-style:solid;border-width:2px;text-align:left;font-weight: bold;}");
-
-    FrontendOf(button)->setStyleSheet("QPushButton { color: red; } QPushButton:hover { }");
-    button.setTextAlignment(CKyUIPushButton::Right);
-    EXPECT_EQ(FrontendOf(button)->styleSheet(),
-              "QPushButton { color: red; } QPushButton:hover { text-align:right;}");
-}
-
 TEST(CKyUIPushButtonTest, TextIsAnsweredFromTheRecordAndResourceIconsChangeNothing)
 {
     CKyUIPushButton button;

@@ -7,13 +7,6 @@
 #include <QtCore/QMap>
 #include <QtCore/QResource>
 #include <QtCore/QtEndian>
-#include <QtGui/QColor>
-#include <QtGui/QImage>
-#include <QtTest/QTest>
-#include <QtWidgets/QDialog>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QPushButton>
-#include <QtWidgets/QVBoxLayout>
 
 #include <algorithm>
 #include <string>
@@ -147,11 +140,6 @@ private:
     bool m_registered = false;
 };
 
-std::string ColourAt(const QImage& image, const QPoint& point)
-{
-    return image.pixelColor(point).name().toStdString();
-}
-
 } // namespace
 
 TEST(CKyUIStyleTest, FinishedSheetHasNoPaletteNameLeft)
@@ -171,46 +159,6 @@ TEST(CKyUIStyleTest, FinishedSheetHasNoPaletteNameLeft)
     EXPECT_EQ(style.styleSheet.count(QStringLiteral("\r\n")), style.styleSheet.count(QLatin1Char('\n')));
     // 27 names replaced, each by seven characters and a CR.
     EXPECT_EQ(style.styleSheet.size(), 3162);
-}
-
-TEST(CKyUIStyleTest, FinishedSheetColoursTheWidgets)
-{
-    QDialog dialog;
-    auto* layout = new QVBoxLayout(&dialog);
-    layout->setContentsMargins(20, 20, 20, 20);
-    auto* button = new QPushButton(QStringLiteral("OK"), &dialog);
-    auto* label = new QLabel(QStringLiteral("Label text"), &dialog);
-    button->setMinimumSize(160, 40);
-    label->setMinimumSize(160, 40);
-    layout->addWidget(button);
-    layout->addWidget(label);
-
-    dialog.setStyleSheet(GetStyle()->styleSheet);
-    dialog.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&dialog));
-
-    const QImage image = dialog.grab().toImage();
-    const QRect buttonRect = button->geometry();
-    const QRect labelRect = label->geometry();
-
-    EXPECT_EQ(ColourAt(image, QPoint(5, 5)), "#333538"); // dialog
-    EXPECT_EQ(ColourAt(image, buttonRect.topLeft() + QPoint(4, 4)), "#141518");
-    EXPECT_EQ(ColourAt(image, QPoint(buttonRect.left(), buttonRect.center().y())), "#000000");
-    EXPECT_EQ(ColourAt(image, labelRect.topLeft() + QPoint(2, 2)), "#333538");
-
-    // Text in the palette's white: some pixels of the label and the button
-    // are (nearly) white, against dark backgrounds.
-    const auto hasLightText = [&image](const QRect& rect) {
-        for (int y = rect.top(); y <= rect.bottom(); ++y) {
-            for (int x = rect.left(); x <= rect.right(); ++x) {
-                if (image.pixelColor(x, y).lightness() > 200)
-                    return true;
-            }
-        }
-        return false;
-    };
-    EXPECT_TRUE(hasLightText(labelRect));
-    EXPECT_TRUE(hasLightText(buttonRect));
 }
 
 TEST(CKyUIStyleTest, GetStyleReadsTheResourcesOnce)

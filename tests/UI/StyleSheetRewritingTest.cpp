@@ -1,0 +1,340 @@
+#include "UI/CKyUILabel.h"
+#include "UI/CKyUIPushButton.h"
+#include "support/QtPrinters.h"
+#include "support/TestViews.h"
+
+#include <gtest/gtest.h>
+
+#include <QtGui/QColor>
+#include <QtGui/QPalette>
+#include <QtWidgets/QFrame>
+
+#include <climits>
+#include <cstdlib>
+#include <functional>
+#include <iterator>
+#include <limits>
+#include <memory>
+#include <random>
+
+namespace
+{
+enum class Kind { Frame, Label, Button };
+
+// A view of the given kind over its widget, whose sheet the rows start from.
+struct Styled
+{
+    explicit Styled(Kind kind)
+    {
+        if (kind == Kind::Label)
+            view.reset(new CKyUILabel);
+        else if (kind == Kind::Button)
+            view.reset(new CKyUIPushButton);
+        else
+            view.reset(new HandleView(new QFrame));
+    }
+    QWidget* widget() const { return qobject_cast<QWidget*>(view->getHandle()); }
+
+    std::unique_ptr<CKyUIBaseView> view;
+};
+
+using Apply = std::function<void(CKyUIBaseView&)>;
+
+Apply Label(std::function<void(CKyUILabel&)> apply)
+{
+    return [apply](CKyUIBaseView& view) { apply(static_cast<CKyUILabel&>(view)); };
+}
+
+Apply Button(std::function<void(CKyUIPushButton&)> apply)
+{
+    return [apply](CKyUIBaseView& view) { apply(static_cast<CKyUIPushButton&>(view)); };
+}
+
+QPalette PaletteWith(QPalette::ColorRole role, const QColor& color)
+{
+    QPalette palette;
+    palette.setBrush(QPalette::All, role, color);
+    return palette;
+}
+
+Apply Background(int rgb)
+{
+    return [rgb](CKyUIBaseView& view) { view.setPalette(PaletteWith(QPalette::Base, QColor(QRgb(rgb)))); };
+}
+
+struct Row
+{
+    Kind kind;
+    const char* sheet; // null: the widget's own empty rule
+    Apply apply;
+    const char* expected;
+};
+} // namespace
+
+// Each rule removes what its expression matches, then puts its declaration in
+// front of the sheet's last "}" or, without one, at the end.
+TEST(StyleSheetRewriting, EachRuleOverSheetsOfEveryShape)
+{
+    const auto width = [](float w) { return [w](CKyUIBaseView& v) { v.setBorderWidth(w); }; };
+    const auto colour = [](int r, int g, int b) { return [=](CKyUIBaseView& v) { v.setBorderColor(r, g, b); }; };
+    const auto twice = [](Apply first, Apply second) {
+        return [=](CKyUIBaseView& v) {
+            first(v);
+            second(v);
+        };
+    };
+    const Row rows[] = {
+        {Kind::Frame, "", width(2), "border-style:solid;border-width:2px;"},
+        {Kind::Frame, "QFrame{border: 1px solid red;}", width(3), "QFrame{border-style:solid;border-width:3px;}"},
+        {Kind::Frame, "QFrame { }", width(1.5f), "QFrame { border-style:solid;border-width:1.5px;}"},
+        // Widths with a zero are never matched again: the sheet grows.
+        {Kind::Frame, "", twice(width(1), width(2)), "border-width:1px;border-style:solid;border-width:2px;"},
+        {Kind::Frame, "border: 0px;", width(4), "border: 0px;border-style:solid;border-width:4px;"},
+        {Kind::Frame, "", width(-1), "border-style:solid;border-width:-1px;"},
+        {Kind::Frame, "}", width(2), "}border-style:solid;border-width:2px;"},
+        {Kind::Frame, "QFrame { border-left-style: dashed; border-top-width: 7px; border-left-width:0px; }",
+         [](CKyUIBaseView& v) { v.setBorderWidth(1.5f, 2, 0, 4); },
+         "QFrame {   border-left-width:0px; "
+         "border-left-style:solid;border-top-style:solid;border-right-style:solid;border-bottom-style:solid;"
+         "border-left-width:1.5px;border-top-width:2px;border-right-width:0px;border-bottom-width:4px;}"},
+        {Kind::Frame, "QFrame { color: red; }", twice(colour(255, 0, 0), colour(1, 2, 3)),
+         "QFrame { color: red; border-color: #ff0000;border-color: #010203;}"},
+        // A one-character value is the only one the expression removes.
+        {Kind::Frame, "border-color: x;", colour(0, 0, 0), "border-color: #000000;"},
+        // The shorthand goes, and with it any width written in it.
+        {Kind::Frame, "QFrame{border: 2px solid blue;}", colour(16, 32, 48), "QFrame{border-color: #102030;}"},
+        // Channels outside 0 to 255 leave the toolkit's invalid colour, black.
+        {Kind::Frame, "QFrame { }", colour(-1, 256, INT_MAX), "QFrame { border-color: #000000;}"},
+        {Kind::Frame, "}", Background(0x010203), "background-color: #010203;}"},
+        {Kind::Frame, "QFrame { background-color: #1a2b3c; }",
+         [](CKyUIBaseView& v) {
+             QPalette palette = PaletteWith(QPalette::Base, QColor(0x11, 0x22, 0x33));
+             palette.setBrush(QPalette::Active, QPalette::AlternateBase, QColor(0x77, 0x88, 0x99));
+             v.setPalette(palette);
+         },
+         "QFrame {  background-color: #112233;border-color: #778899;}"},
+        {Kind::Frame, "QFrame { background-color: #808080; }", twice(Background(0x646464), Background(0x123456)),
+         "QFrame { background-color: #808080; background-color: #123456;}"},
+        // A disabled view stores the palette only, also once enabled again.
+        {Kind::Frame, "QFrame { }",
+         [](CKyUIBaseView& v) {
+             v.setEnabled(false);
+             Background(0x0000ff)(v);
+             v.setEnabled(true);
+         },
+         "QFrame { }"},
+        {Kind::Frame, "QFrame { }",
+         [](CKyUIBaseView& v) {
+             v.setCornerRadius(4);
+             v.addStyleClass("primary", true);
+             v.removeStyleClass("primary", false);
+         },
+         "QFrame { }"},
+
+        {Kind::Label, nullptr, Label([](CKyUILabel& l) { l.setFontSize(14), l.setBoldText(true); }),
+         "QLabel { font-size:14px;font-weight: bold;}"},
+        {Kind::Label, nullptr, Label([](CKyUILabel& l) { l.setFontSize(12), l.setFontSize(12); }),
+         "QLabel { font-size:12px;}"},
+        // Neither a zero nor a minus sign is matched again.
+        {Kind::Label, nullptr, Label([](CKyUILabel& l) { l.setFontSize(10), l.setFontSize(12), l.setFontSize(13); }),
+         "QLabel { font-size:10px;font-size:13px;}"},
+        {Kind::Label, nullptr, Label([](CKyUILabel& l) { l.setFontSize(-3), l.setFontSize(9); }),
+         "QLabel { font-size:-3px;font-size:9px;}"},
+        {Kind::Label, nullptr, Label([](CKyUILabel& l) { l.setFontSize(INT_MIN); }),
+         "QLabel { font-size:-2147483648px;}"},
+        {Kind::Label, "color: red;", Label([](CKyUILabel& l) { l.setFontSize(11); }), "color: red;font-size:11px;"},
+        {Kind::Label, nullptr, Label([](CKyUILabel& l) { l.setBoldText(true), l.setBoldText(false); }),
+         "QLabel { font-weight: normal;}"},
+        // The label's weight admits the digits 1 to 9, not 600.
+        {Kind::Label, "QLabel { font-weight: 600; } QLabel:hover { font-weight: 9; }",
+         Label([](CKyUILabel& l) { l.setBoldText(true); }),
+         "QLabel { font-weight: 600; } QLabel:hover {  font-weight: bold;}"},
+
+        {Kind::Button, nullptr, Button([](CKyUIPushButton& b) { b.setTextAlignment(CKyUIPushButton::Left); }),
+         "QPushButton { text-align:left;}"},
+        {Kind::Button, nullptr,
+         Button([](CKyUIPushButton& b) {
+             b.setTextAlignment(CKyUIPushButton::Center);
+             b.setTextAlignment(CKyUIPushButton::Right);
+         }),
+         "QPushButton { text-align:right;}"},
+        // Out of range: the old alignment goes and nothing takes its place.
+        {Kind::Button, nullptr,
+         Button([](CKyUIPushButton& b) {
+             b.setTextAlignment(CKyUIPushButton::Left);
+             b.setTextAlignment(CKyUIPushButton::TextAlignment(7));
+         }),
+         "QPushButton { }"},
+        {Kind::Button, "QPushButton { text-align \t: \tright ; color: red; }",
+         Button([](CKyUIPushButton& b) { b.setTextAlignment(CKyUIPushButton::Left); }),
+         "QPushButton {  color: red; text-align:left;}"},
+        {Kind::Button, "color: red;", Button([](CKyUIPushButton& b) { b.setTextAlignment(CKyUIPushButton::Center); }),
+         "color: red;text-align:center;"},
+        {Kind::Button, nullptr, Button([](CKyUIPushButton& b) { b.setBoldText(true), b.setBoldText(false); }),
+         "QPushButton { font-weight: normal;}"},
+        // The button's weight admits no digit at all.
+        {Kind::Button, "QPushButton { font-weight: 600; }", Button([](CKyUIPushButton& b) { b.setBoldText(true); }),
+         "QPushButton { font-weight: 600; font-weight: bold;}"},
+        {Kind::Button, nullptr,
+         Button([](CKyUIPushButton& b) {
+             b.setBorderWidth(2);
+             b.setTextAlignment(CKyUIPushButton::Left);
+             b.setBoldText(true);
+         }),
+         "QPushButton { border-style:solid;border-width:2px;text-align:left;font-weight: bold;}"},
+        {Kind::Button, "QPushButton { color: red; } QPushButton:hover { }",
+         Button([](CKyUIPushButton& b) { b.setTextAlignment(CKyUIPushButton::Right); }),
+         "QPushButton { color: red; } QPushButton:hover { text-align:right;}"},
+    };
+    for (const Row& row : rows) {
+        Styled styled(row.kind);
+        if (row.sheet)
+            styled.widget()->setStyleSheet(QString::fromLatin1(row.sheet));
+        SCOPED_TRACE(styled.widget()->styleSheet().toStdString());
+        row.apply(*styled.view);
+        EXPECT_EQ(styled.widget()->styleSheet(), QString::fromLatin1(row.expected));
+    }
+}
+
+// The text colour goes to the widget's palette, opaque, never into the sheet.
+TEST(StyleSheetRewriting, TextColourGoesToThePaletteWhileEnabled)
+{
+    Styled styled(Kind::Frame);
+    QPalette palette = PaletteWith(QPalette::Text, QColor(0x44, 0x55, 0x66, 17));
+    styled.view->setEnabled(false);
+    styled.view->setPalette(palette);
+    EXPECT_NE(styled.widget()->palette().color(QPalette::Text), QColor(0x44, 0x55, 0x66));
+    styled.view->setEnabled(true);
+    styled.view->setPalette(palette);
+    EXPECT_EQ(styled.widget()->palette().color(QPalette::Active, QPalette::Text), QColor(0x44, 0x55, 0x66));
+    EXPECT_EQ(styled.view->palette(), palette);
+    EXPECT_EQ(styled.widget()->styleSheet(), QString());
+}
+
+TEST(StyleSheetRewriting, HandlesThatAreNoWidgetsAreLeftAlone)
+{
+    QObject plain;
+    HandleView view(&plain);
+    view.setBorderWidth(2);
+    view.setBorderColor(1, 2, 3);
+    view.setPalette(PaletteWith(QPalette::Base, Qt::red));
+    EXPECT_FALSE(plain.property("styleSheet").isValid());
+    view.setHandle(nullptr);
+}
+
+namespace
+{
+unsigned EnvironmentNumber(const char* name, unsigned fallback)
+{
+    const char* value = std::getenv(name);
+    return value && *value ? unsigned(std::strtoul(value, nullptr, 10)) : fallback;
+}
+
+// Where a rule's new declaration must stand after the rewrite: in front of
+// the last "}" or at the very end, with no brace changed and nothing else added.
+::testing::AssertionResult DeclarationStandsLast(const QString& before, const QString& after,
+                                                 const QString& declaration)
+{
+    if (after.count(QLatin1Char('}')) != before.count(QLatin1Char('}')))
+        return ::testing::AssertionFailure() << "the braces changed";
+    if (after.size() > before.size() + declaration.size())
+        return ::testing::AssertionFailure() << "more than the declaration was added";
+    for (int at = after.indexOf(declaration); at >= 0; at = after.indexOf(declaration, at + 1)) {
+        const QString tail = after.mid(at + declaration.size());
+        if (tail.isEmpty() || (tail.startsWith(QLatin1Char('}')) && tail.count(QLatin1Char('}')) == 1))
+            return ::testing::AssertionSuccess();
+    }
+    return ::testing::AssertionFailure() << declaration.toStdString() << " is not last";
+}
+} // namespace
+
+// Random sheets (bytes, CSS-like fragments with braces anywhere, very long
+// ones) and extreme values. The seed is fixed so that a failure replays;
+// COMMONUI_FUZZ_SEED and COMMONUI_FUZZ_ROUNDS choose others.
+TEST(StyleSheetRewriting, AnySheetAndValueKeepsEachRulesDeclarationLast)
+{
+    const unsigned seed = EnvironmentNumber("COMMONUI_FUZZ_SEED", 20240611u);
+    SCOPED_TRACE(::testing::Message() << "COMMONUI_FUZZ_SEED=" << seed);
+    std::mt19937 random(seed);
+    const auto between = [&random](int low, int high) { return std::uniform_int_distribution<int>(low, high)(random); };
+    const QtMessageHandler previous =
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+
+    static const char* const pieces[] = {
+        "{",           "}",          "}}",     ";",          ":",           " ",          "\n",      "border",
+        "-width",      "-style",     "-color", "border-left", "background", "-color",      "text-align", "font-weight",
+        "font-size",   "QLabel",     "#",      "0",          "1",           "9",          "px",      "solid",
+        "bold",        "left",       "/*",     "*/",         "\"",          "\\",         "-1",      "\xe9"};
+    const auto sheet = [&]() {
+        QString text;
+        if (between(0, 4) == 0) { // random bytes, sometimes broken UTF-8
+            QByteArray bytes(between(0, 300), '\0');
+            for (char& byte : bytes)
+                byte = char(between(0, 255));
+            return between(0, 1) ? QString::fromLatin1(bytes) : QString::fromUtf8(bytes);
+        }
+        for (int i = between(0, between(0, 20) == 0 ? 10000 : 60); i > 0; --i)
+            text += QString::fromLatin1(pieces[between(0, int(std::size(pieces)) - 1)]);
+        return text;
+    };
+    const float widths[] = {std::numeric_limits<float>::quiet_NaN(), std::numeric_limits<float>::infinity(),
+                            -std::numeric_limits<float>::infinity(), 1e30f, -1.5f, 0.0f, 2.0f, 7.25f};
+    const int numbers[] = {INT_MIN, INT_MAX, -300, -1, 0, 9, 10, 255, 256, 600};
+
+    CKyUILabel label;
+    CKyUIPushButton button;
+    for (unsigned round = 0, rounds = EnvironmentNumber("COMMONUI_FUZZ_ROUNDS", 400u); round < rounds; ++round) {
+        const bool onLabel = between(0, 1);
+        CKyUIBaseView& view = onLabel ? static_cast<CKyUIBaseView&>(label) : button;
+        auto* widget = qobject_cast<QWidget*>(view.getHandle());
+        widget->setStyleSheet(sheet());
+        // A few rules in a row, so that they meet each other's declarations.
+        for (int step = between(1, 4); step > 0; --step) {
+            const float w = widths[between(0, int(std::size(widths)) - 1)];
+            const int n = numbers[between(0, int(std::size(numbers)) - 1)];
+            const bool bold = between(0, 1);
+            const QString weight = bold ? QStringLiteral("font-weight: bold;") : QStringLiteral("font-weight: normal;");
+            const QString before = widget->styleSheet();
+            QString declaration;
+            switch (between(0, 4)) {
+            case 0:
+                view.setBorderWidth(w);
+                declaration = QStringLiteral("border-style:solid;border-width:%1px;").arg(double(w));
+                break;
+            case 1: {
+                view.setBorderColor(n, 0, 255);
+                QColor color;
+                color.setRgb(n, 0, 255);
+                declaration = QStringLiteral("border-color: %1;").arg(color.name());
+                break;
+            }
+            case 2: {
+                const QColor color(QRgb(unsigned(n) & 0xffffffu));
+                view.setPalette(PaletteWith(QPalette::Base, color));
+                declaration = QStringLiteral("background-color: %1;").arg(color.name());
+                break;
+            }
+            case 3:
+                if (onLabel)
+                    label.setBoldText(bold);
+                else
+                    button.setBoldText(bold);
+                declaration = weight;
+                break;
+            default:
+                if (onLabel) {
+                    label.setFontSize(n);
+                    declaration = QStringLiteral("font-size:%1px;").arg(n);
+                } else {
+                    static const char* const names[] = {"left", "right", "center"};
+                    const int alignment = between(0, 2);
+                    button.setTextAlignment(CKyUIPushButton::TextAlignment(alignment));
+                    declaration = QStringLiteral("text-align:%1;").arg(QLatin1String(names[alignment]));
+                }
+            }
+            ASSERT_TRUE(DeclarationStandsLast(before, widget->styleSheet(), declaration))
+                << "round " << round << ", sheet before: " << before.left(200).toStdString();
+        }
+    }
+    qInstallMessageHandler(previous);
+}
