@@ -1,4 +1,6 @@
 #include "UI/Impl/qt/CKyUIPushButtonFrontend.h"
+#include "support/QtPrinters.h"
+#include "support/Recorder.h"
 #include "support/TestDialogs.h"
 
 #include <QtCore/QPointer>
@@ -14,31 +16,19 @@ QDialogButtonBox* ToolkitBoxOf(const CKyUIDialogButtonBox& box)
 }
 
 // Records the box's four signals and the three wrappers' clicked().
-void Record(CKyUIDialogButtonBox& box, Log& log)
+void Record(CKyUIDialogButtonBox& box, Recorder& log)
 {
-    box.accepted().connect([&log]() { log.push_back("accepted"); });
-    box.rejected().connect([&log]() { log.push_back("rejected"); });
-    box.helpRequest().connect([&log]() { log.push_back("helpRequest"); });
-    box.clicked().connect([&log, &box](CKyUIPushButton* which) {
-        if (which == box.button(CKyUIDialogButtonBox::Ok))
-            log.push_back("clicked Ok");
-        else if (which == box.button(CKyUIDialogButtonBox::Cancel))
-            log.push_back("clicked Cancel");
-        else if (which == box.button(CKyUIDialogButtonBox::Help))
-            log.push_back("clicked Help");
-        else
-            log.push_back("clicked ?");
+    log.on(box.accepted(), "accepted").on(box.rejected(), "rejected").on(box.helpRequest(), "helpRequest");
+    const std::pair<CKyUIDialogButtonBox::StandardButton, QString> wrappers[] = {
+        {CKyUIDialogButtonBox::Ok, "Ok"}, {CKyUIDialogButtonBox::Cancel, "Cancel"}, {CKyUIDialogButtonBox::Help, "Help"}};
+    box.clicked().connect([&log, &box, wrappers](CKyUIPushButton* which) {
+        QString name = "?";
+        for (const auto& wrapper : wrappers)
+            name = which == box.button(wrapper.first) ? wrapper.second : name;
+        log.add("clicked", name);
     });
-    const std::pair<CKyUIDialogButtonBox::StandardButton, std::string> wrappers[] = {
-        {CKyUIDialogButtonBox::Ok, "Ok"},
-        {CKyUIDialogButtonBox::Cancel, "Cancel"},
-        {CKyUIDialogButtonBox::Help, "Help"}};
-    for (const auto& wrapper : wrappers) {
-        const std::string name = wrapper.second;
-        box.button(wrapper.first)->clicked().connect([&log, name](bool checked) {
-            log.push_back(name + " wrapper clicked " + (checked ? "true" : "false"));
-        });
-    }
+    for (const auto& wrapper : wrappers)
+        log.on(box.button(wrapper.first)->clicked(), wrapper.second + " wrapper clicked");
 }
 
 // A dialog set up and shown without a modal loop. It counts accept() and
@@ -97,28 +87,25 @@ TEST(CKyUIDialogButtonBoxTest, HasOkCancelAndHelpWrappingTheToolkitButtons)
 TEST(CKyUIDialogButtonBoxTest, PressesReachClientsOnlyAsTheBoxsSignals)
 {
     ShownDialog dialog;
-    Log log;
+    Recorder log;
     Record(*dialog.box, log);
 
     QTest::mouseClick(dialog.boxButton(CKyUIDialogButtonBox::Ok), Qt::LeftButton);
-    EXPECT_EQ(log, (Log{"clicked Help", "accepted"}));
-    log.clear();
+    EXPECT_EQ(log.take(), (QStringList{"clicked:Help", "accepted"}));
 
     QTest::mouseClick(dialog.boxButton(CKyUIDialogButtonBox::Cancel), Qt::LeftButton);
-    EXPECT_EQ(log, (Log{"clicked Help", "rejected"}));
-    log.clear();
+    EXPECT_EQ(log.take(), (QStringList{"clicked:Help", "rejected"}));
 
     // Help: no helpRequest, ever.
     QTest::mouseClick(dialog.boxButton(CKyUIDialogButtonBox::Help), Qt::LeftButton);
-    EXPECT_EQ(log, (Log{"clicked Help"}));
+    EXPECT_EQ(log.take(), (QStringList{"clicked:Help"}));
 
     EXPECT_EQ(dialog.accepts, 1);
     EXPECT_EQ(dialog.rejects, 1);
 
-    log.clear();
     dialog.box->blockSignals(true);
     QTest::mouseClick(dialog.boxButton(CKyUIDialogButtonBox::Ok), Qt::LeftButton);
-    EXPECT_TRUE(log.empty());
+    EXPECT_TRUE(log.lines.isEmpty());
     EXPECT_EQ(dialog.accepts, 1);
 }
 
@@ -139,29 +126,26 @@ TEST(CKyUIDialogButtonBoxTest, TheBoxNeverClosesTheDialogByItself)
 TEST(CKyUIDialogButtonBoxTest, TheDialogsSignalsAreReportedAsClicksOfOkAndCancel)
 {
     ShownDialog dialog;
-    Log log;
+    Recorder log;
     Record(*dialog.box, log);
 
     // The box's own slot on the wrapper's clicked was connected before the
     // recording one, so its accepted comes first, inside that emission.
     dialog.accepted().Emit();
-    EXPECT_EQ(log, (Log{"accepted", "Ok wrapper clicked true"}));
-    log.clear();
+    EXPECT_EQ(log.take(), (QStringList{"accepted", "Ok wrapper clicked:true"}));
     dialog.rejected().Emit();
-    EXPECT_EQ(log, (Log{"rejected", "Cancel wrapper clicked true"}));
-    log.clear();
+    EXPECT_EQ(log.take(), (QStringList{"rejected", "Cancel wrapper clicked:true"}));
 
     // Blocking the box leaves the wrapper's report alone.
     dialog.box->blockSignals(true);
     dialog.accepted().Emit();
-    EXPECT_EQ(log, (Log{"Ok wrapper clicked true"}));
-    log.clear();
+    EXPECT_EQ(log.take(), (QStringList{"Ok wrapper clicked:true"}));
 
     // Blocking the wrapper stops the chain at its start.
     dialog.box->blockSignals(false);
     dialog.box->button(CKyUIDialogButtonBox::Cancel)->blockSignals(true);
     dialog.rejected().Emit();
-    EXPECT_TRUE(log.empty());
+    EXPECT_TRUE(log.lines.isEmpty());
 }
 
 TEST(CKyUIDialogButtonBoxTest, DestroyingTheBoxLeavesTheToolkitButtonsToTheToolkitBox)

@@ -1,4 +1,6 @@
 #include "UI/CKyUIStyle.h"
+#include "support/QtPrinters.h"
+#include "support/Recorder.h"
 #include "support/TestDialogs.h"
 
 #include <QtCore/QPointer>
@@ -9,89 +11,58 @@
 namespace
 {
 // Records the dialog's and the box's signals, in order.
-void RecordSignals(SampleDialog& dialog, Log& log)
+void RecordSignals(SampleDialog& dialog, Recorder& log)
 {
-    dialog.accepted().connect([&log]() { log.push_back("dialog accepted"); });
-    dialog.rejected().connect([&log]() { log.push_back("dialog rejected"); });
-    dialog.finished().connect([&log](int code) { log.push_back("dialog finished " + std::to_string(code)); });
+    log.on(dialog.accepted(), "dialog accepted").on(dialog.rejected(), "dialog rejected");
+    log.on(dialog.finished(), "dialog finished");
     dialog.afterSetup = [&log](SampleDialog& self) {
         CKyUIDialogButtonBox* box = self.box;
-        box->accepted().connect([&log]() { log.push_back("box accepted"); });
-        box->rejected().connect([&log]() { log.push_back("box rejected"); });
-        box->helpRequest().connect([&log]() { log.push_back("box helpRequest"); });
+        log.on(box->accepted(), "box accepted").on(box->rejected(), "box rejected");
+        log.on(box->helpRequest(), "box helpRequest");
         box->clicked().connect([&log, box](CKyUIPushButton* which) {
-            log.push_back(which == box->button(CKyUIDialogButtonBox::Help) ? "box clicked Help"
-                                                                           : "box clicked ?");
+            log.add("box clicked", which == box->button(CKyUIDialogButtonBox::Help) ? "Help" : "?");
         });
     };
 }
 } // namespace
 
-TEST(CKyUIDialogTest, ClickingOkReturnsOneAndTellsTheHostStartAndEnd)
+// OK and Cancel end the run through the client's slots; Escape and closing
+// the window take the toolkit's reject path, which tells neither the host of
+// the end nor any signal. accept() itself emits neither accepted nor finished.
+TEST(CKyUIDialogTest, EachWayOutGivesItsResultNotificationsAndSignals)
 {
-    RecordingHost host;
-    SampleDialog dialog;
-    Log log;
-    RecordSignals(dialog, log);
-
-    const int result = RunModally(dialog, [&host](SampleDialog& self) {
-        EXPECT_EQ(host.calls, std::vector<bool>{true});
-        QTest::mouseClick(self.boxButton(CKyUIDialogButtonBox::Ok), Qt::LeftButton);
-    });
-
-    EXPECT_EQ(result, 1);
-    EXPECT_EQ(dialog.result(), 1);
-    EXPECT_EQ(host.calls, (std::vector<bool>{true, false}));
-    // accept() itself emits neither accepted nor finished.
-    EXPECT_EQ(log, (Log{"box clicked Help", "box accepted"}));
-    EXPECT_FALSE(dialog.widget()->isVisible());
-}
-
-TEST(CKyUIDialogTest, ClickingCancelReturnsZeroAndDeliversTheHelpWrapper)
-{
-    RecordingHost host;
-    SampleDialog dialog;
-    Log log;
-    RecordSignals(dialog, log);
-
-    const int result = RunModally(dialog, [](SampleDialog& self) {
-        QTest::mouseClick(self.boxButton(CKyUIDialogButtonBox::Cancel), Qt::LeftButton);
-    });
-
-    EXPECT_EQ(result, 0);
-    EXPECT_EQ(host.calls, (std::vector<bool>{true, false}));
-    EXPECT_EQ(log, (Log{"box clicked Help", "box rejected"}));
-}
-
-TEST(CKyUIDialogTest, EscapeReturnsZeroWithoutClosingNotificationOrSignal)
-{
-    RecordingHost host;
-    SampleDialog dialog;
-    Log log;
-    RecordSignals(dialog, log);
-    dialog.setResult(4);
-
-    const int result =
-        RunModally(dialog, [](SampleDialog& self) { QTest::keyClick(self.widget(), Qt::Key_Escape); });
-
-    EXPECT_EQ(result, 0);
-    EXPECT_EQ(dialog.result(), 0);
-    EXPECT_EQ(host.calls, std::vector<bool>{true});
-    EXPECT_TRUE(log.empty());
-}
-
-TEST(CKyUIDialogTest, ClosingTheWindowTakesTheToolkitsRejectPathToo)
-{
-    RecordingHost host;
-    SampleDialog dialog;
-    Log log;
-    RecordSignals(dialog, log);
-
-    const int result = RunModally(dialog, [](SampleDialog& self) { self.widget()->close(); });
-
-    EXPECT_EQ(result, 0);
-    EXPECT_EQ(host.calls, std::vector<bool>{true});
-    EXPECT_TRUE(log.empty());
+    struct Row
+    {
+        std::function<void(SampleDialog&)> during;
+        int result;
+        std::vector<bool> hostCalls;
+        QStringList emitted;
+    };
+    const auto click = [](CKyUIDialogButtonBox::StandardButton which) {
+        return [which](SampleDialog& self) { QTest::mouseClick(self.boxButton(which), Qt::LeftButton); };
+    };
+    const Row rows[] = {
+        {click(CKyUIDialogButtonBox::Ok), 1, {true, false}, {"box clicked:Help", "box accepted"}},
+        {click(CKyUIDialogButtonBox::Cancel), 0, {true, false}, {"box clicked:Help", "box rejected"}},
+        {[](SampleDialog& self) { QTest::keyClick(self.widget(), Qt::Key_Escape); }, 0, {true}, {}},
+        {[](SampleDialog& self) { self.widget()->close(); }, 0, {true}, {}},
+    };
+    for (const Row& row : rows) {
+        RecordingHost host;
+        SampleDialog dialog;
+        Recorder log;
+        RecordSignals(dialog, log);
+        dialog.setResult(4);
+        const int result = RunModally(dialog, [&](SampleDialog& self) {
+            EXPECT_EQ(host.calls, std::vector<bool>{true});
+            row.during(self);
+        });
+        EXPECT_EQ(result, row.result);
+        EXPECT_EQ(dialog.result(), row.result);
+        EXPECT_EQ(host.calls, row.hostCalls);
+        EXPECT_EQ(log.lines, row.emitted);
+        EXPECT_FALSE(dialog.widget()->isVisible());
+    }
 }
 
 TEST(CKyUIDialogTest, DoneAndHideCloseWithTheGivenOrStoredCode)
@@ -123,22 +94,6 @@ TEST(CKyUIDialogTest, DoneAndHideCloseWithTheGivenOrStoredCode)
                          }),
               3);
     EXPECT_EQ(host.calls, (std::vector<bool>{true, false}));
-}
-
-TEST(CKyUIDialogTest, TheFlagOfExecMakesNoDifference)
-{
-    RecordingHost host;
-    SampleDialog modal;
-    SampleDialog modeless;
-    EXPECT_EQ(RunModally(
-                  modal, [](SampleDialog& self) { self.reject(); }, true),
-              0);
-    EXPECT_EQ(RunModally(
-                  modeless, [](SampleDialog& self) { self.reject(); }, false),
-              0);
-    EXPECT_EQ(host.calls, (std::vector<bool>{true, false, true, false}));
-    EXPECT_EQ(modal.setups, 1);
-    EXPECT_EQ(modeless.setups, 1);
 }
 
 TEST(CKyUIDialogTest, WithoutAHostObjectNobodyIsToldAndTheRunIsTheSame)
@@ -217,9 +172,8 @@ TEST(CKyUIDialogTest, OnlyTheReactionsEmitAndBlockingSilencesThem)
 {
     SampleDialog dialog;
     auto* impl = static_cast<CKyUIDialogImpl*>(dialog.impl());
-    Log log;
-    dialog.accepted().connect([&log]() { log.push_back("accepted"); });
-    dialog.rejected().connect([&log]() { log.push_back("rejected"); });
+    Recorder log;
+    log.on(dialog.accepted(), "accepted").on(dialog.rejected(), "rejected");
 
     impl->OnAccepted();
     impl->OnAcceptPressed();
@@ -228,7 +182,7 @@ TEST(CKyUIDialogTest, OnlyTheReactionsEmitAndBlockingSilencesThem)
     dialog.blockSignals(true);
     impl->OnAccepted();
     impl->OnRejectPressed();
-    EXPECT_EQ(log, (Log{"accepted", "accepted", "rejected", "rejected"}));
+    EXPECT_EQ(log.lines, (QStringList{"accepted", "accepted", "rejected", "rejected"}));
 }
 
 TEST(CKyUIDialogTest, DestructionForgetsTheQDialogAndReleasesTheContent)

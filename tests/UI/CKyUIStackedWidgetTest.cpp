@@ -1,6 +1,8 @@
 #include "UI/CKyUIStackedWidget.h"
 #include "UI/CKyUIVerticalLayout.h"
 #include "UI/Impl/CKyUIStackedWidgetImpl.h"
+#include "support/QtPrinters.h"
+#include "support/Recorder.h"
 #include "support/TestViews.h"
 
 #include <gtest/gtest.h>
@@ -27,15 +29,8 @@ protected:
             pages.push_back(new HandleView(label));
             stack.addTab(pages.back(), title);
         }
-        Log(stack.currentChanged(), "current");
-        Log(stack.tabCloseRequested(), "close");
-        Log(stack.tabBarClicked(), "clicked");
-        Log(stack.tabBarDoubleClicked(), "double");
-    }
-
-    void Log(CKyUISignal<void(int)>& signal, const std::string& name)
-    {
-        signal.connect([this, name](int index) { log.push_back(name + " " + std::to_string(index)); });
+        log.on(stack.currentChanged(), "current").on(stack.tabCloseRequested(), "close");
+        log.on(stack.tabBarClicked(), "clicked").on(stack.tabBarDoubleClicked(), "double");
     }
 
     QTabWidget* Tabs() const { return qobject_cast<QTabWidget*>(stack.getHandle()); }
@@ -43,7 +38,7 @@ protected:
 
     CKyUIStackedWidget stack;
     std::vector<HandleView*> pages;
-    std::vector<std::string> log;
+    Recorder log;
 };
 } // namespace
 
@@ -78,7 +73,7 @@ TEST_F(CKyUIStackedWidgetTest, PagesBecomeChildrenAndTabsWithoutMovingTheIndex)
     EXPECT_EQ(stack.indexOf(&stranger), 3);
     EXPECT_EQ(stack.currentIndex(), 0);
     EXPECT_EQ(Tabs()->currentIndex(), 0);
-    EXPECT_TRUE(log.empty());
+    EXPECT_TRUE(log.lines.isEmpty());
 }
 
 TEST_F(CKyUIStackedWidgetTest, ProgramChangesEmitOncePerNewIndex)
@@ -86,25 +81,25 @@ TEST_F(CKyUIStackedWidgetTest, ProgramChangesEmitOncePerNewIndex)
     stack.setCurrentIndex(0);
     stack.setCurrentIndex(3);
     stack.setCurrentIndex(-1);
-    EXPECT_TRUE(log.empty());
+    EXPECT_TRUE(log.lines.isEmpty());
     EXPECT_EQ(Tabs()->currentIndex(), 0);
 
     stack.setCurrentIndex(1);
     stack.setCurrentIndex(1);
-    EXPECT_EQ(log, std::vector<std::string>({"current 1"}));
+    EXPECT_EQ(log.lines, (QStringList{"current:1"}));
     EXPECT_EQ(stack.currentIndex(), 1);
     EXPECT_EQ(Tabs()->currentIndex(), 1);
 
     stack.setCurrentWidget(pages[2]);
     HandleView stranger(new QLabel);
     stack.setCurrentWidget(&stranger);
-    EXPECT_EQ(log, std::vector<std::string>({"current 1", "current 2"}));
+    EXPECT_EQ(log.lines, (QStringList{"current:1", "current:2"}));
     EXPECT_EQ(stack.currentIndex(), 2);
 
     stack.blockSignals(true);
     stack.setCurrentIndex(0);
     EXPECT_EQ(stack.currentIndex(), 0);
-    EXPECT_EQ(log.size(), 2u);
+    EXPECT_EQ(log.lines.size(), 2);
 }
 
 TEST_F(CKyUIStackedWidgetTest, AUsersClickMovesOnlyTheToolkit)
@@ -122,12 +117,12 @@ TEST_F(CKyUIStackedWidgetTest, AUsersClickMovesOnlyTheToolkit)
     QTest::mouseDClick(bar, Qt::LeftButton, Qt::NoModifier, bar->tabRect(1).center());
     EXPECT_EQ(tabs->currentIndex(), 1);
     EXPECT_EQ(stack.currentIndex(), 0);
-    EXPECT_TRUE(log.empty());
+    EXPECT_TRUE(log.lines.isEmpty());
 
     // The toolkit is told even when the stored index does not change.
     stack.setCurrentIndex(0);
     EXPECT_EQ(tabs->currentIndex(), 0);
-    EXPECT_TRUE(log.empty());
+    EXPECT_TRUE(log.lines.isEmpty());
 }
 
 TEST_F(CKyUIStackedWidgetTest, TabTextOnlyInRange)
@@ -144,12 +139,12 @@ TEST_F(CKyUIStackedWidgetTest, UnconnectedReactionsStoreAndEmit)
 {
     Impl()->OnTabClickedActivated(0);
     Impl()->OnPageActivated(0);
-    EXPECT_TRUE(log.empty());
+    EXPECT_TRUE(log.lines.isEmpty());
 
     Impl()->OnTabClickedActivated(2);
     Impl()->OnPageActivated(1);
     Impl()->OnPageActivated(1);
-    EXPECT_EQ(log, std::vector<std::string>({"clicked 2", "current 2", "current 1"}));
+    EXPECT_EQ(log.lines, (QStringList{"clicked:2", "current:2", "current:1"}));
     EXPECT_EQ(stack.currentIndex(), 1);
     // Only the library's own record moved.
     EXPECT_EQ(Tabs()->currentIndex(), 0);
@@ -183,5 +178,5 @@ TEST_F(CKyUIStackedWidgetTest, PagesWithoutAWidgetCountInTheLibraryOnly)
     EXPECT_EQ(Tabs()->count(), 2);
     stack.setTabText(3, "renamed");
     stack.setCurrentIndex(0);
-    EXPECT_EQ(log, (std::vector<std::string>{"current 3", "current 0"}));
+    EXPECT_EQ(log.lines, (QStringList{"current:3", "current:0"}));
 }

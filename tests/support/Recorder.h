@@ -49,6 +49,7 @@ public:
 
     // Arguments as they are written: pointers by address.
     static QString Text(const QString& value) { return value; }
+    static QString Text(const char* value) { return QString::fromUtf8(value); }
     static QString Text(bool value) { return value ? QStringLiteral("true") : QStringLiteral("false"); }
     static QString Text(const void* value) { return QString::number(reinterpret_cast<quintptr>(value), 16); }
     template <class T, class = std::enable_if_t<std::is_arithmetic<T>::value || std::is_enum<T>::value>>

@@ -108,4 +108,3 @@ private:
     CKyDocumentHost* const m_previous;
 };
 
-using Log = std::vector<std::string>;
