@@ -1,7 +1,12 @@
 #include "NA/CKyNANetworkRequest.h"
 #include "NA/Impl/CKyNANetworkRequestImpl.h"
 
+#include "NA/CKyNANetworkReply.h"
+#include "NA/CKyNAWebSocketProtocol.h"
+
+#include <QtNetwork/QNetworkReply>
 #include <QtNetwork/QNetworkRequest>
+#include <QtWebSockets/QWebSocketProtocol>
 
 #include <gtest/gtest.h>
 
@@ -26,22 +31,6 @@ TEST(CKyNANetworkRequest, ConstructorUrlReachesOnlyTheToolkitRequest)
     EXPECT_EQ(request.getHandle()->url(), other);
 }
 
-TEST(CKyNANetworkRequest, KnownHeadersAreStoredAndWrittenThrough)
-{
-    CKyNANetworkRequest request(kUrl);
-    EXPECT_FALSE(request.header(CKyNANetworkRequest::LocationHeader).isValid());
-
-    request.setHeader(CKyNANetworkRequest::LocationHeader, QUrl(QStringLiteral("http://a/")));
-    request.setHeader(CKyNANetworkRequest::LocationHeader, QUrl(QStringLiteral("http://b/")));
-    EXPECT_EQ(request.header(CKyNANetworkRequest::LocationHeader).toUrl(), QUrl(QStringLiteral("http://b/")));
-    EXPECT_EQ(request.getHandle()->header(QNetworkRequest::LocationHeader).toUrl(),
-              QUrl(QStringLiteral("http://b/")));
-
-    // The getter answers from the stored value, not from the toolkit request.
-    request.getHandle()->setHeader(QNetworkRequest::LocationHeader, QUrl(QStringLiteral("http://c/")));
-    EXPECT_EQ(request.header(CKyNANetworkRequest::LocationHeader).toUrl(), QUrl(QStringLiteral("http://b/")));
-}
-
 TEST(CKyNANetworkRequest, RawHeadersMatchCaseSensitivelyAndListInByteOrder)
 {
     CKyNANetworkRequest request(kUrl);
@@ -61,15 +50,6 @@ TEST(CKyNANetworkRequest, RawHeadersMatchCaseSensitivelyAndListInByteOrder)
     ordered.setRawHeader("alpha", "a");
     ordered.setRawHeader("Gamma", "g");
     EXPECT_EQ(ordered.rawHeaderList(), (QList<QByteArray>{"Gamma", "alpha", "beta"}));
-}
-
-TEST(CKyNANetworkRequest, TimeoutIsStoredUncheckedAndNotHandedToTheToolkit)
-{
-    CKyNANetworkRequest request(kUrl);
-    request.setRequestTimeout(-5);
-    EXPECT_EQ(request.requestTimeout(), -5);
-    request.setRequestTimeout(200);
-    EXPECT_EQ(request.requestTimeout(), 200);
 }
 
 TEST(CKyNANetworkRequest, CopyCarriesOnlyTheUrlField)
@@ -117,20 +97,66 @@ TEST(CKyNANetworkRequest, AssignmentInstallsAFreshRequestFromTheUrlField)
     EXPECT_EQ(previous->rawHeader("X-Old"), QByteArray("1"));
 }
 
-TEST(CKyNANetworkRequest, KnownHeaderNames)
+// Each known header is stored, written through under its name, and answered
+// from the stored value; numbers that name no header have no name.
+TEST(CKyNANetworkRequest, KnownHeadersByName)
 {
     using R = CKyNANetworkRequest;
-    EXPECT_EQ(CKyNANetworkRequestImpl::GetKnowHeaderName(R::ContentTypeHeader), QByteArray("Content-Type"));
-    EXPECT_EQ(CKyNANetworkRequestImpl::GetKnowHeaderName(R::ContentLengthHeader),
-              QByteArray("Content-Length"));
-    EXPECT_EQ(CKyNANetworkRequestImpl::GetKnowHeaderName(R::LocationHeader), QByteArray("Location"));
-    EXPECT_EQ(CKyNANetworkRequestImpl::GetKnowHeaderName(R::LastModifiedHeader), QByteArray("Last-Modified"));
-    EXPECT_EQ(CKyNANetworkRequestImpl::GetKnowHeaderName(R::CookieHeader), QByteArray("Cookie"));
-    EXPECT_EQ(CKyNANetworkRequestImpl::GetKnowHeaderName(R::SetCookieHeader), QByteArray("Set-Cookie"));
-    EXPECT_EQ(CKyNANetworkRequestImpl::GetKnowHeaderName(R::ContentDispositionHeader),
-              QByteArray("Content-Disposition"));
-    EXPECT_EQ(CKyNANetworkRequestImpl::GetKnowHeaderName(R::UserAgentHeader), QByteArray("User-Agent"));
-    EXPECT_EQ(CKyNANetworkRequestImpl::GetKnowHeaderName(R::ServerHeader), QByteArray("Server"));
-    EXPECT_TRUE(CKyNANetworkRequestImpl::GetKnowHeaderName(R::KnownHeaders(9)).isNull());
-    EXPECT_TRUE(CKyNANetworkRequestImpl::GetKnowHeaderName(R::KnownHeaders(-1)).isNull());
+    const std::pair<R::KnownHeaders, const char*> rows[] = {
+        {R::ContentTypeHeader, "Content-Type"},
+        {R::ContentLengthHeader, "Content-Length"},
+        {R::LocationHeader, "Location"},
+        {R::LastModifiedHeader, "Last-Modified"},
+        {R::CookieHeader, "Cookie"},
+        {R::SetCookieHeader, "Set-Cookie"},
+        {R::ContentDispositionHeader, "Content-Disposition"},
+        {R::UserAgentHeader, "User-Agent"},
+        {R::ServerHeader, "Server"},
+        {R::KnownHeaders(9), nullptr},
+        {R::KnownHeaders(-1), nullptr},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.first);
+        EXPECT_EQ(CKyNANetworkRequestImpl::GetKnowHeaderName(row.first), QByteArray(row.second));
+        EXPECT_EQ(CKyNANetworkRequestImpl::GetKnowHeaderName(row.first).isNull(), row.second == nullptr);
+    }
+
+    CKyNANetworkRequest request(kUrl);
+    EXPECT_FALSE(request.header(R::LocationHeader).isValid());
+    request.setHeader(R::LocationHeader, QUrl(QStringLiteral("http://a/")));
+    request.setHeader(R::LocationHeader, QUrl(QStringLiteral("http://b/")));
+    EXPECT_EQ(request.getHandle()->header(QNetworkRequest::LocationHeader).toUrl(), QUrl(QStringLiteral("http://b/")));
+    request.getHandle()->setHeader(QNetworkRequest::LocationHeader, QUrl(QStringLiteral("http://c/")));
+    EXPECT_EQ(request.header(R::LocationHeader).toUrl(), QUrl(QStringLiteral("http://b/")));
+}
+
+// The enumerations carry the toolkit's numbers and pass them through.
+TEST(NetworkEnumerations, CarryTheToolkitsNumbers)
+{
+    using R = CKyNANetworkRequest;
+    using E = CKyNANetworkReply;
+    using W = CKyNAWebSocketProtocol::Version;
+    using C = CKyNAWebSocketProtocol::CloseCode;
+    const std::pair<int, int> rows[] = {
+        {R::ContentTypeHeader, QNetworkRequest::ContentTypeHeader},
+        {R::ServerHeader, QNetworkRequest::ServerHeader},
+        {R::HttpStatusCodeAttribute, QNetworkRequest::HttpStatusCodeAttribute},
+        {R::HTTP2AllowedAttribute, QNetworkRequest::Http2AllowedAttribute},
+        {R::RedirectPolicyAttribute, QNetworkRequest::RedirectPolicyAttribute},
+        {R::User, QNetworkRequest::User},
+        {R::UserMax, QNetworkRequest::UserMax},
+        {E::OperationCanceledError, QNetworkReply::OperationCanceledError},
+        {E::InsecureRedirectError, QNetworkReply::InsecureRedirectError},
+        {E::UnknownNetworkError, QNetworkReply::UnknownNetworkError},
+        {E::UnknownProxyError, QNetworkReply::UnknownProxyError},
+        {E::ContentNotFoundError, QNetworkReply::ContentNotFoundError},
+        {E::ProtocolUnknownError, QNetworkReply::ProtocolUnknownError},
+        {E::UnknownServerError, QNetworkReply::UnknownServerError},
+        {W::VersionUnknown, QWebSocketProtocol::VersionUnknown},
+        {W::VersionLatest, QWebSocketProtocol::VersionLatest},
+        {C::CloseCodeNormal, QWebSocketProtocol::CloseCodeNormal},
+        {C::CloseCodeTlsHandshakeFailed, QWebSocketProtocol::CloseCodeTlsHandshakeFailed},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(row.first, row.second);
 }
