@@ -144,38 +144,6 @@ TEST_F(NetworkAccessManager, EachCallReturnsANewReplyThatRemembersTheCallersRequ
     EXPECT_EQ(first->getHandle()->parent(), manager.getHandle());
 }
 
-TEST_F(NetworkAccessManager, RefusedConnectionReportsErrorThenFinished)
-{
-    ClosedPort refused;
-    ASSERT_TRUE(refused.isValid());
-    CKyNANetworkRequest request(refused.url());
-    std::unique_ptr<CKyNANetworkReply> reply(manager.get(request));
-    Recorder recorder;
-    RecordReply(recorder, reply.get());
-    ASSERT_TRUE(waitFinished(recorder));
-    EXPECT_EQ(Outcome(recorder), (QStringList{QStringLiteral("error:1"), QStringLiteral("finished")}));
-    EXPECT_EQ(errorCode(*reply), CKyNANetworkReply::ConnectionRefusedError);
-    EXPECT_FALSE(reply->errorString().isEmpty());
-}
-
-TEST_F(NetworkAccessManager, ServerClosingWithoutAnswerReportsRemoteHostClosed)
-{
-    Route hangUp;
-    hangUp.mode = Mode::CloseEarly;
-    server.setRoute("/hang-up", hangUp);
-
-    CKyNANetworkRequest request(server.url(QStringLiteral("/hang-up")));
-    std::unique_ptr<CKyNANetworkReply> reply(manager.get(request));
-    Recorder recorder;
-    RecordReply(recorder, reply.get());
-    ASSERT_TRUE(waitFinished(recorder));
-    EXPECT_EQ(Outcome(recorder), (QStringList{QStringLiteral("error:2"), QStringLiteral("finished")}));
-    EXPECT_EQ(errorCode(*reply), CKyNANetworkReply::RemoteHostClosedError);
-    EXPECT_FALSE(reply->attribute(CKyNANetworkRequest::HttpStatusCodeAttribute).isValid());
-    EXPECT_TRUE(reply->rawHeaderList().isEmpty());
-    EXPECT_FALSE(server.requests().isEmpty());
-}
-
 TEST_F(NetworkAccessManager, HttpErrorStatusStillDeliversStatusAndBody)
 {
     // No route: the server answers 404 with a body.

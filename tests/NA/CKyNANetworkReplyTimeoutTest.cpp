@@ -61,20 +61,6 @@ protected:
 
 } // namespace
 
-TEST_F(ReplyTimeout, StalledServerIsAbortedWithCancellationThenFinish)
-{
-    auto reply = start(QStringLiteral("/stall"), 200);
-    Recorder recorder;
-    RecordReply(recorder, reply.get());
-    ASSERT_TRUE(waitUntil([&] { return recorder.has(QStringLiteral("finished")); }, 5000));
-
-    EXPECT_EQ(Outcome(recorder), (QStringList{QStringLiteral("error:5"), QStringLiteral("finished")}));
-    EXPECT_TRUE(reply->isFinished());
-    EXPECT_EQ(errorCode(*reply), CKyNANetworkReply::OperationCanceledError);
-    ASSERT_EQ(server.requests().size(), 1);
-    EXPECT_FALSE(guardOf(*reply)->isActive());
-}
-
 TEST_F(ReplyTimeout, ProgressDoesNotPostponeTheAbort)
 {
     Route trickle;

@@ -52,6 +52,9 @@ TEST_F(NetworkReplyFault, EachFaultGivesItsErrorThenFinishedBeforeTheTimeout)
     notHttp.mode = Mode::Malformed;
     notHttp.body = "220 mail.example ESMTP ready\r\n";
     server.setRoute("/not-http", notHttp);
+    Route hangUp;
+    hangUp.mode = Mode::CloseEarly;
+    server.setRoute("/hang-up", hangUp);
 
     ClosedPort refused;
     ASSERT_TRUE(refused.isValid());
@@ -69,6 +72,7 @@ TEST_F(NetworkReplyFault, EachFaultGivesItsErrorThenFinishedBeforeTheTimeout)
         {"malformed status line", server.url(QStringLiteral("/malformed")),
          CKyNANetworkReply::RemoteHostClosedError},
         {"no HTTP at all", server.url(QStringLiteral("/not-http")), CKyNANetworkReply::RemoteHostClosedError},
+        {"closed without an answer", server.url(QStringLiteral("/hang-up")), CKyNANetworkReply::RemoteHostClosedError},
         {"connection refused", refused.url(), CKyNANetworkReply::ConnectionRefusedError},
     };
     const int timeout = 10000;
@@ -85,6 +89,7 @@ TEST_F(NetworkReplyFault, EachFaultGivesItsErrorThenFinishedBeforeTheTimeout)
                   (QStringList{QStringLiteral("error:%1").arg(int(c.error)), QStringLiteral("finished")}));
         EXPECT_EQ(errorCode(*reply), c.error);
         EXPECT_TRUE(reply->isFinished());
+        EXPECT_FALSE(reply->errorString().isEmpty());
         // Whatever arrived is readable and nothing more: never more than was sent.
         EXPECT_LE(reply->readAll().size(), 4000);
     }
