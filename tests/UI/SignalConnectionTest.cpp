@@ -6,6 +6,8 @@
 #include "UI/CKyUIObject.h"
 #include "UI/CKyUISignal.h"
 #include "UI/slimsig/detail/signal_base"
+#include "support/Recorder.h"
+#include "support/SignalTesting.h"
 
 #if !defined(emit) || !defined(slots) || !defined(signals)
 #error "the signal headers must leave Qt's keywords defined"
@@ -27,33 +29,6 @@
 // Connecting: identifiers, connections that fail, scoped connections.
 
 namespace {
-
-template <class Sig>
-using Signal = slimsig::signal_base<slimsig::signal_traits<Sig>, std::allocator<std::function<Sig>>, Sig>;
-
-using Log = std::vector<std::string>;
-
-template <class Sig>
-std::vector<std::uint64_t> pendingIds(const Signal<Sig>& signal)
-{
-    std::vector<std::uint64_t> ids;
-    for (const auto& slot : signal.pending_slots())
-        ids.push_back(slot.id);
-    return ids;
-}
-
-// The state every emission must leave behind.
-template <class Sig>
-void expectSettled(const Signal<Sig>& signal)
-{
-    EXPECT_EQ(signal.emission_depth(), 0u);
-    EXPECT_EQ(signal.pending_offset(), 0u);
-    EXPECT_EQ(signal.pending_size(), signal.slot_count());
-    for (const auto& slot : signal.pending_slots()) {
-        EXPECT_TRUE(slot.connected);
-        EXPECT_FALSE(slot.running);
-    }
-}
 
 TEST(SignalBase, IdentifiersCountFromZeroAndAreNeverReused)
 {
@@ -89,14 +64,14 @@ bool CopyMayFail::fail = false;
 TEST(SignalBase, ConnectThatCannotCopyARunningSlotFailsAndLosesNothing)
 {
     Signal<void()> signal;
-    Log log;
+    Recorder log;
     int runs = 0;
     int late = 0;
     std::string failure;
-    signal.connect([&] { log.push_back("a"); });
+    signal.connect([&] { log.add("a"); });
     signal.connect([&, capture = CopyMayFail()] {
         static_cast<void>(capture);
-        log.push_back("b");
+        log.add("b");
         if (++runs > 1)
             return;
         // Fills the array; the connect that must move it copies this running
@@ -104,23 +79,24 @@ TEST(SignalBase, ConnectThatCannotCopyARunningSlotFailsAndLosesNothing)
         CopyMayFail::fail = true;
         try {
             for (; late < 1000; ++late)
-                signal.connect([&] { log.push_back("late"); });
+                signal.connect([&] { log.add("late"); });
         } catch (const std::runtime_error& error) {
             failure = error.what();
         }
         CopyMayFail::fail = false;
     });
-    signal.connect([&] { log.push_back("c"); });
+    signal.connect([&] { log.add("c"); });
     signal.emit();
     EXPECT_EQ(failure, "copy failed");
-    EXPECT_EQ(log, (Log{"a", "b", "c"}));
+    EXPECT_EQ(log.lines, (QStringList{"a", "b", "c"}));
     EXPECT_EQ(signal.slot_count(), 3u + static_cast<unsigned>(late));
     expectSettled(signal);
-    log.clear();
+    log.lines.clear();
     signal.emit();
-    Log expected{"a", "b", "c"};
-    expected.resize(expected.size() + static_cast<std::size_t>(late), "late");
-    EXPECT_EQ(log, expected);
+    QStringList expected{"a", "b", "c"};
+    for (int i = 0; i < late; ++i)
+        expected << "late";
+    EXPECT_EQ(log.lines, expected);
 }
 
 TEST(SignalBase, ScopedConnectionDisconnectsWhenDestroyedOrReplaced)
