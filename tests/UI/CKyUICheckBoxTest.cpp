@@ -1,3 +1,4 @@
+#include "support/Recorder.h"
 #include "UI/CKyUICheckBox.h"
 #include "support/QtPrinters.h"
 
@@ -15,11 +16,9 @@ QCheckBox* WidgetOf(const CKyUICheckBox& box)
 }
 
 // Writes every signal of the box to the log, in the order emitted.
-void Record(CKyUICheckBox& box, QStringList& log)
+void Record(CKyUICheckBox& box, Recorder& log)
 {
-    box.stateChanged().connect([&log](int state) { log.append(QString("state %1").arg(state)); });
-    box.toggled().connect([&log](bool on) { log.append(on ? "toggled on" : "toggled off"); });
-    box.clicked().connect([&log](bool) { log.append("clicked"); });
+    log.on(box.stateChanged(), "state").on(box.toggled(), "toggled").on(box.clicked(), "clicked");
 }
 } // namespace
 
@@ -42,28 +41,27 @@ TEST(CKyUICheckBoxTest, WidgetIsAPlainCheckBoxOfFixedHeight)
 
 TEST(CKyUICheckBoxTest, SetCheckedEmitsStateAsOneOrZeroThenToggledOnlyOnChange)
 {
-    QStringList log;
+    Recorder log;
     CKyUICheckBox box;
     Record(box, log);
 
     box.setChecked(false);
-    EXPECT_TRUE(log.isEmpty());
+    EXPECT_TRUE(log.lines.isEmpty());
 
     box.setChecked(true);
     box.setChecked(true);
-    EXPECT_EQ(log, QStringList({"state 1", "toggled on"}));
+    EXPECT_EQ(log.take(), QStringList({"state:1", "toggled:true"}));
     EXPECT_TRUE(box.isChecked());
     EXPECT_TRUE(WidgetOf(box)->isChecked());
 
-    log.clear();
     box.setChecked(false);
-    EXPECT_EQ(log, QStringList({"state 0", "toggled off"}));
+    EXPECT_EQ(log.take(), QStringList({"state:0", "toggled:false"}));
     EXPECT_FALSE(WidgetOf(box)->isChecked());
 }
 
 TEST(CKyUICheckBoxTest, UsersClickShowsButChangesNeitherStateNorSignals)
 {
-    QStringList log;
+    Recorder log;
     CKyUICheckBox box;
     box.setText("Option");
     Record(box, log);
@@ -74,21 +72,20 @@ TEST(CKyUICheckBoxTest, UsersClickShowsButChangesNeitherStateNorSignals)
     QTest::mouseClick(widget, Qt::LeftButton, Qt::NoModifier, QPoint(8, widget->height() / 2));
     ASSERT_TRUE(widget->isChecked());
     EXPECT_FALSE(box.isChecked());
-    EXPECT_TRUE(log.isEmpty());
+    EXPECT_TRUE(log.lines.isEmpty());
 
     // The stored state is still off, so the program's "on" is a change.
     box.setChecked(true);
-    EXPECT_EQ(log, QStringList({"state 1", "toggled on"}));
-    log.clear();
+    EXPECT_EQ(log.take(), QStringList({"state:1", "toggled:true"}));
     QTest::mouseClick(widget, Qt::LeftButton, Qt::NoModifier, QPoint(8, widget->height() / 2));
     EXPECT_FALSE(widget->isChecked());
     EXPECT_TRUE(box.isChecked());
-    EXPECT_TRUE(log.isEmpty());
+    EXPECT_TRUE(log.lines.isEmpty());
 }
 
 TEST(CKyUICheckBoxTest, BlockedSignalsStillCheckTheWidgetAndStoreTheState)
 {
-    QStringList log;
+    Recorder log;
     CKyUICheckBox box;
     Record(box, log);
 
@@ -96,9 +93,9 @@ TEST(CKyUICheckBoxTest, BlockedSignalsStillCheckTheWidgetAndStoreTheState)
     box.setChecked(true);
     EXPECT_TRUE(box.isChecked());
     EXPECT_TRUE(WidgetOf(box)->isChecked());
-    EXPECT_TRUE(log.isEmpty());
+    EXPECT_TRUE(log.lines.isEmpty());
 
     box.blockSignals(false);
     box.setChecked(false);
-    EXPECT_EQ(log, QStringList({"state 0", "toggled off"}));
+    EXPECT_EQ(log.take(), QStringList({"state:0", "toggled:false"}));
 }

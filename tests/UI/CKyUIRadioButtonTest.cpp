@@ -1,3 +1,4 @@
+#include "support/Recorder.h"
 #include "UI/CKyUIRadioButton.h"
 #include "support/QtPrinters.h"
 
@@ -14,11 +15,9 @@ QRadioButton* WidgetOf(const CKyUIRadioButton& button)
     return qobject_cast<QRadioButton*>(button.getHandle());
 }
 
-void Record(CKyUIRadioButton& button, QStringList& log)
+void Record(CKyUIRadioButton& button, Recorder& log)
 {
-    button.toggled().connect([&log](bool on) { log.append(on ? "toggled on" : "toggled off"); });
-    button.clicked().connect([&log] { log.append("clicked"); });
-    button.released().connect([&log] { log.append("released"); });
+    log.on(button.toggled(), "toggled").on(button.clicked(), "clicked").on(button.released(), "released");
 }
 } // namespace
 
@@ -38,14 +37,13 @@ TEST(CKyUIRadioButtonTest, TextIsAReferenceToTheStoredText)
 
 TEST(CKyUIRadioButtonTest, SetCheckedAlwaysReachesTheWidgetButEmitsOnlyOnChange)
 {
-    QStringList log;
+    Recorder log;
     CKyUIRadioButton button;
     Record(button, log);
     QRadioButton* widget = WidgetOf(button);
 
     button.setChecked(true);
     EXPECT_TRUE(widget->isChecked());
-    EXPECT_EQ(log, QStringList({"toggled on"}));
 
     // Switched off behind the model's back, then set again: the widget
     // follows, the unchanged model stays silent.
@@ -53,16 +51,15 @@ TEST(CKyUIRadioButtonTest, SetCheckedAlwaysReachesTheWidgetButEmitsOnlyOnChange)
     widget->setChecked(false);
     button.setChecked(true);
     EXPECT_TRUE(widget->isChecked());
-    EXPECT_EQ(log, QStringList({"toggled on"}));
-
+    EXPECT_EQ(log.take(), QStringList({"toggled:true"}));
     button.setChecked(false);
     EXPECT_FALSE(widget->isChecked());
-    EXPECT_EQ(log, QStringList({"toggled on", "toggled off"}));
+    EXPECT_EQ(log.take(), QStringList({"toggled:false"}));
 }
 
 TEST(CKyUIRadioButtonTest, UsersClickShowsButChangesNeitherStateNorSignals)
 {
-    QStringList log;
+    Recorder log;
     CKyUIRadioButton button;
     button.setText("Imperial");
     Record(button, log);
@@ -73,12 +70,12 @@ TEST(CKyUIRadioButtonTest, UsersClickShowsButChangesNeitherStateNorSignals)
     QTest::mouseClick(widget, Qt::LeftButton, Qt::NoModifier, QPoint(8, widget->height() / 2));
     ASSERT_TRUE(widget->isChecked());
     EXPECT_FALSE(button.isChecked());
-    EXPECT_TRUE(log.isEmpty());
+    EXPECT_TRUE(log.lines.isEmpty());
 }
 
 TEST(CKyUIRadioButtonTest, BlockedSignalsStillCheckTheWidgetAndStoreTheState)
 {
-    QStringList log;
+    Recorder log;
     CKyUIRadioButton button;
     Record(button, log);
 
@@ -86,9 +83,9 @@ TEST(CKyUIRadioButtonTest, BlockedSignalsStillCheckTheWidgetAndStoreTheState)
     button.setChecked(true);
     EXPECT_TRUE(button.isChecked());
     EXPECT_TRUE(WidgetOf(button)->isChecked());
-    EXPECT_TRUE(log.isEmpty());
+    EXPECT_TRUE(log.lines.isEmpty());
 
     button.blockSignals(false);
     button.setChecked(false);
-    EXPECT_EQ(log, QStringList({"toggled off"}));
+    EXPECT_EQ(log.take(), QStringList({"toggled:false"}));
 }
