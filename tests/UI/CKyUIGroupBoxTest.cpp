@@ -1,3 +1,4 @@
+#include "support/Recorder.h"
 #include "UI/CKyUIGroupBox.h"
 #include "UI/CKyUIRadioGroup.h"
 #include "UI/CKyUIVerticalLayout.h"
@@ -94,22 +95,22 @@ TEST(CKyUIGroupBoxTest, ChildrenGetTruncatedStretchAndMinimumHeightPolicy)
 
 TEST(CKyUIGroupBoxTest, CollapsingIsStoredAndAnnouncedButHidesNothing)
 {
-    QList<bool> log;
+    Recorder log;
     CKyUIVerticalLayout parent;
     auto* box = new CKyUIGroupBox(CKyUIGroupBox::Vertical, true);
     parent.addView(box);
     HandleView* child = NewLabelView("inside");
     box->addView(child);
-    box->onCollapsedStateChanged().connect([&log](bool collapsed) { log.append(collapsed); });
+    log.on(box->onCollapsedStateChanged(), "collapsed");
     auto* top = qobject_cast<QWidget*>(parent.getHandle());
     top->show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(top));
 
     box->setCollapsed(false);
-    EXPECT_TRUE(log.isEmpty());
+    EXPECT_TRUE(log.lines.isEmpty());
     box->setCollapsed(true);
     box->setCollapsed(true);
-    EXPECT_EQ(log, QList<bool>({true}));
+    EXPECT_EQ(log.lines, QStringList({"collapsed:true"}));
     EXPECT_TRUE(box->isCollapsed());
     EXPECT_TRUE(WidgetOf(*box)->isVisible());
     EXPECT_TRUE(qobject_cast<QWidget*>(child->getHandle())->isVisible());
@@ -117,7 +118,7 @@ TEST(CKyUIGroupBoxTest, CollapsingIsStoredAndAnnouncedButHidesNothing)
     box->blockSignals(true);
     box->setCollapsed(false);
     EXPECT_FALSE(box->isCollapsed());
-    EXPECT_EQ(log, QList<bool>({true}));
+    EXPECT_EQ(log.lines, QStringList({"collapsed:true"}));
 }
 
 TEST(CKyUIGroupBoxTest, OutlineIsPaintedJustInsideTheRightAndBottomEdges)

@@ -1,3 +1,4 @@
+#include "support/Recorder.h"
 #include "UI/CKyUIListBox.h"
 #include "UI/Impl/CKyUIListBoxImpl.h"
 
@@ -17,13 +18,13 @@ protected:
     {
         for (const char* text : {"alpha", "beta", "Alpha", "beta", "gamma"})
             list.addItem(text);
-        list.valueChanged().connect([this](int value) { emitted.push_back(value); });
+        emitted.on(list.valueChanged(), "value");
     }
 
     CKyUIListBoxImpl* Impl() { return static_cast<CKyUIListBoxImpl*>(list.impl()); }
 
     CKyUIListBox list;
-    std::vector<int> emitted;
+    Recorder emitted;
 };
 } // namespace
 
@@ -77,7 +78,7 @@ TEST_F(CKyUIListBoxTest, SelectionQueriesAndEditsThatDoNothing)
     // The reference is the stored text itself.
     list.item(0) = "renamed";
     EXPECT_EQ(list.row("renamed"), 0);
-    EXPECT_TRUE(emitted.empty());
+    EXPECT_TRUE(emitted.lines.isEmpty());
 }
 
 TEST_F(CKyUIListBoxTest, ClearEmptiesBothListsAndKeepsCapacity)
@@ -94,7 +95,7 @@ TEST_F(CKyUIListBoxTest, ClearEmptiesBothListsAndKeepsCapacity)
     list.addItem("fresh");
     EXPECT_FALSE(list.itemData(0).isValid());
     EXPECT_FALSE(list.isItemSelected(0));
-    EXPECT_TRUE(emitted.empty());
+    EXPECT_TRUE(emitted.lines.isEmpty());
 }
 
 TEST_F(CKyUIListBoxTest, ItemSelectedReactionTellsWhetherAnyIsSelected)
@@ -105,12 +106,12 @@ TEST_F(CKyUIListBoxTest, ItemSelectedReactionTellsWhetherAnyIsSelected)
     Impl()->OnItemSelected(1, false);
     // Out of range: nothing changes, the state is still reported.
     Impl()->OnItemSelected(9, true);
-    EXPECT_EQ(emitted, std::vector<int>({1, 1, 1, 0, 0}));
+    EXPECT_EQ(emitted.lines, QStringList({"value:1", "value:1", "value:1", "value:0", "value:0"}));
     EXPECT_FALSE(list.isItemSelected(1));
 
     list.blockSignals(true);
     Impl()->OnItemSelected(0, true);
-    EXPECT_EQ(emitted.size(), 5u);
+    EXPECT_EQ(emitted.lines.size(), 5);
     EXPECT_TRUE(list.isItemSelected(0));
 }
 

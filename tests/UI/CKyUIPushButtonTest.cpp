@@ -1,3 +1,4 @@
+#include "support/Recorder.h"
 #include "UI/CKyUIPushButton.h"
 #include "UI/Impl/CKyUIPushButtonImpl.h"
 #include "UI/Impl/qt/CKyUIPushButtonFrontend.h"
@@ -24,7 +25,7 @@ struct ClickableButton
     ClickableButton()
     {
         button.setText("Apply");
-        button.clicked().connect([this](bool checked) { clicks.push_back(checked); });
+        clicks.on(button.clicked(), "clicked");
         widget()->show();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(widget()));
     }
@@ -32,7 +33,7 @@ struct ClickableButton
     void click() { QTest::mouseClick(widget(), Qt::LeftButton); }
 
     CKyUIPushButton button;
-    std::vector<bool> clicks;
+    Recorder clicks;
 };
 } // namespace
 
@@ -72,12 +73,12 @@ TEST(CKyUIPushButtonTest, AClickEmitsTrueOnReleaseAndOnlyThen)
 {
     ClickableButton subject;
     QTest::mousePress(subject.widget(), Qt::LeftButton);
-    EXPECT_TRUE(subject.clicks.empty());
+    EXPECT_TRUE(subject.clicks.lines.isEmpty());
     QTest::mouseRelease(subject.widget(), Qt::LeftButton);
-    EXPECT_EQ(subject.clicks, std::vector<bool>{true});
+    EXPECT_EQ(subject.clicks.lines, QStringList{"clicked:true"});
 
     QTest::keyClick(subject.widget(), Qt::Key_Space);
-    EXPECT_EQ(subject.clicks, (std::vector<bool>{true, true}));
+    EXPECT_EQ(subject.clicks.lines, QStringList({"clicked:true", "clicked:true"}));
 }
 
 TEST(CKyUIPushButtonTest, ACheckableButtonReportsTrueAlsoWhenAClickUnchecksIt)
@@ -88,7 +89,7 @@ TEST(CKyUIPushButtonTest, ACheckableButtonReportsTrueAlsoWhenAClickUnchecksIt)
     EXPECT_TRUE(subject.widget()->isChecked());
     subject.click();
     EXPECT_FALSE(subject.widget()->isChecked());
-    EXPECT_EQ(subject.clicks, (std::vector<bool>{true, true}));
+    EXPECT_EQ(subject.clicks.lines, QStringList({"clicked:true", "clicked:true"}));
 }
 
 TEST(CKyUIPushButtonTest, BlockedSignalsSilenceClicksButKeepTheSlot)
@@ -96,10 +97,10 @@ TEST(CKyUIPushButtonTest, BlockedSignalsSilenceClicksButKeepTheSlot)
     ClickableButton subject;
     subject.button.blockSignals(true);
     subject.click();
-    EXPECT_TRUE(subject.clicks.empty());
+    EXPECT_TRUE(subject.clicks.lines.isEmpty());
     subject.button.blockSignals(false);
     subject.click();
-    EXPECT_EQ(subject.clicks, std::vector<bool>{true});
+    EXPECT_EQ(subject.clicks.lines, QStringList{"clicked:true"});
 }
 
 TEST(CKyUIPushButtonTest, TextIsAnsweredFromTheRecordAndResourceIconsChangeNothing)
@@ -120,8 +121,8 @@ TEST(CKyUIPushButtonTest, TextIsAnsweredFromTheRecordAndResourceIconsChangeNothi
 TEST(CKyUIPushButtonTest, AClickOnTheWidgetOutlivingTheButtonReachesNobody)
 {
     auto* button = new CKyUIPushButton;
-    int clicks = 0;
-    button->clicked().connect([&clicks](bool) { ++clicks; });
+    Recorder clicks;
+    clicks.on(button->clicked(), "clicked");
     QPointer<CKyUIPushButtonFrontend> widget(FrontendOf(*button));
     widget->show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(widget.data()));
@@ -133,7 +134,7 @@ TEST(CKyUIPushButtonTest, AClickOnTheWidgetOutlivingTheButtonReachesNobody)
     EXPECT_NE(widget->impl, nullptr);
     QTest::mouseClick(widget.data(), Qt::LeftButton);
     widget->click();
-    EXPECT_EQ(clicks, 0);
+    EXPECT_TRUE(clicks.lines.isEmpty());
 
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_TRUE(widget.isNull());

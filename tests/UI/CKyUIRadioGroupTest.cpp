@@ -1,3 +1,4 @@
+#include "support/Recorder.h"
 #include "UI/CKyUIRadioGroup.h"
 #include "UI/CKyUIGroupBox.h"
 #include "UI/CKyUIRadioButton.h"
@@ -74,12 +75,10 @@ TEST(CKyUIRadioGroupTest, ButtonsJoinTheGroupBoxLayoutInOrderAndTheGroupOwnsThem
 TEST(CKyUIRadioGroupTest, ExclusionIsShownOnScreenOnlyAndNoClickMovesTheModel)
 {
     Units units;
-    QStringList log;
+    Recorder log;
     for (CKyUIRadioButton* button : units.buttons) {
-        button->toggled().connect(
-            [&log, button](bool on) { log.append(button->text() + (on ? " on" : " off")); });
-        button->clicked().connect([&log] { log.append("clicked"); });
-        button->released().connect([&log] { log.append("released"); });
+        log.on(button->toggled(), button->text()).on(button->clicked(), "clicked");
+        log.on(button->released(), "released");
     }
     auto* box = qobject_cast<QWidget*>(units.box.getHandle());
     box->show();
@@ -90,7 +89,7 @@ TEST(CKyUIRadioGroupTest, ExclusionIsShownOnScreenOnlyAndNoClickMovesTheModel)
     EXPECT_FALSE(WidgetOf(units.buttons.at(0))->isChecked());
     EXPECT_TRUE(WidgetOf(units.buttons.at(1))->isChecked());
     EXPECT_TRUE(units.buttons.at(0)->isChecked());
-    EXPECT_EQ(log, QStringList({"A on", "B on"}));
+    EXPECT_EQ(log.lines, QStringList({"A:true", "B:true"}));
 
     QRadioButton* third = WidgetOf(units.buttons.at(2));
     QTest::mouseClick(third, Qt::LeftButton, Qt::NoModifier, QPoint(8, third->height() / 2));
@@ -98,7 +97,7 @@ TEST(CKyUIRadioGroupTest, ExclusionIsShownOnScreenOnlyAndNoClickMovesTheModel)
     EXPECT_FALSE(WidgetOf(units.buttons.at(1))->isChecked());
     EXPECT_FALSE(units.buttons.at(2)->isChecked());
     EXPECT_TRUE(units.buttons.at(1)->isChecked());
-    EXPECT_EQ(log, QStringList({"A on", "B on"}));
+    EXPECT_EQ(log.lines, QStringList({"A:true", "B:true"}));
 }
 
 TEST(CKyUIRadioGroupTest, DestroyingTheBoxTakesGroupButtonsAndTheButtonGroupWithIt)

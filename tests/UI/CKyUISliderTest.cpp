@@ -1,3 +1,4 @@
+#include "support/Recorder.h"
 #include "UI/CKyUISlider.h"
 #include "UI/CKyUIVerticalLayout.h"
 #include "UI/Impl/CKyUISliderImpl.h"
@@ -19,12 +20,6 @@ QSlider* SliderOf(const CKyUISlider& slider)
     return qobject_cast<QSlider*>(slider.getHandle());
 }
 
-std::vector<int>* Record(CKyUISlider& slider)
-{
-    auto* values = new std::vector<int>;
-    slider.valueChanged().connect([values](int value) { values->push_back(value); });
-    return values;
-}
 } // namespace
 
 TEST(CKyUISliderTest, CreationKeepsTheToolkitRangeAndAFixedHeight)
@@ -50,72 +45,75 @@ TEST(CKyUISliderTest, CreationKeepsTheToolkitRangeAndAFixedHeight)
 TEST(CKyUISliderTest, ArrowKeysMoveTheValueAndEmitEachStep)
 {
     CKyUISlider slider;
-    std::unique_ptr<std::vector<int>> values(Record(slider));
+    Recorder values;
+    values.on(slider.valueChanged(), "value");
     QSlider* widget = SliderOf(slider);
     widget->show();
 
     QTest::keyClick(widget, Qt::Key_Right);
     QTest::keyClick(widget, Qt::Key_Right);
-    EXPECT_EQ(*values, std::vector<int>({1, 2}));
+    EXPECT_EQ(values.lines, QStringList({"value:1", "value:2"}));
     EXPECT_EQ(slider.value(), 2);
 
     QTest::keyClick(widget, Qt::Key_End);
     QTest::keyClick(widget, Qt::Key_Left);
-    EXPECT_EQ(*values, std::vector<int>({1, 2, 99, 98}));
+    EXPECT_EQ(values.lines, QStringList({"value:1", "value:2", "value:99", "value:98"}));
     EXPECT_EQ(slider.value(), 98);
 
     // Blocked: the value still follows the user, nothing is emitted.
     slider.blockSignals(true);
     QTest::keyClick(widget, Qt::Key_Home);
     EXPECT_EQ(slider.value(), 0);
-    EXPECT_EQ(values->size(), 4u);
+    EXPECT_EQ(values.lines.size(), 4);
     slider.blockSignals(false);
     QTest::keyClick(widget, Qt::Key_Right);
-    EXPECT_EQ(values->back(), 1);
+    EXPECT_EQ(values.lines.last(), "value:1");
 }
 
 TEST(CKyUISliderTest, SetValueIsStoredAsGivenAndTheClampedValueReportedBack)
 {
     CKyUISlider slider;
-    std::unique_ptr<std::vector<int>> values(Record(slider));
+    Recorder values;
+    values.on(slider.valueChanged(), "value");
 
     slider.setValue(150);
     EXPECT_EQ(SliderOf(slider)->value(), 99);
-    EXPECT_EQ(*values, std::vector<int>({99}));
+    EXPECT_EQ(values.lines, QStringList({"value:99"}));
     EXPECT_EQ(slider.value(), 99);
 
     // Already at the maximum: nothing moves, so the larger number stays.
     slider.setValue(500);
-    EXPECT_EQ(values->size(), 1u);
+    EXPECT_EQ(values.lines.size(), 1);
     EXPECT_EQ(slider.value(), 500);
 
     slider.setValue(99);
-    EXPECT_EQ(values->size(), 1u);
+    EXPECT_EQ(values.lines.size(), 1);
     EXPECT_EQ(slider.value(), 99);
 
     slider.setValue(-3);
-    EXPECT_EQ(*values, std::vector<int>({99, 0}));
+    EXPECT_EQ(values.lines, QStringList({"value:99", "value:0"}));
     EXPECT_EQ(slider.value(), 0);
 }
 
 TEST(CKyUISliderTest, RangeIsSetInTwoSteps)
 {
     CKyUISlider slider;
-    std::unique_ptr<std::vector<int>> values(Record(slider));
+    Recorder values;
+    values.on(slider.valueChanged(), "value");
     slider.setRange(200, 300);
     // Raising the minimum lifts maximum and value with it first.
-    EXPECT_EQ(*values, std::vector<int>({200}));
+    EXPECT_EQ(values.lines, QStringList({"value:200"}));
     EXPECT_EQ(SliderOf(slider)->minimum(), 200);
     EXPECT_EQ(SliderOf(slider)->maximum(), 300);
     EXPECT_EQ(slider.value(), 200);
 
     // An inverted range ends where the maximum step puts it, not where a
     // single toolkit call would.
-    values->clear();
+    values.lines.clear();
     slider.setRange(50, 20);
     EXPECT_EQ(SliderOf(slider)->minimum(), 20);
     EXPECT_EQ(SliderOf(slider)->maximum(), 20);
-    EXPECT_EQ(*values, std::vector<int>({20}));
+    EXPECT_EQ(values.lines, QStringList({"value:20"}));
     auto* impl = static_cast<CKyUISliderImpl*>(slider.impl());
     EXPECT_EQ(impl->Minimum(), 50);
     EXPECT_EQ(impl->Maximum(), 20);

@@ -1,3 +1,4 @@
+#include "support/Recorder.h"
 #include "UI/CKyUITimer.h"
 #include "UI/Impl/CKyUITimerImpl.h"
 
@@ -65,18 +66,18 @@ TEST(CKyUITimerTest, KeepsFiringAfterTheFirstTimeoutWhileReportingInactive)
 TEST(CKyUITimerTest, BlockedTimeoutsClearTheFlagButEmitNothing)
 {
     CKyUITimer timer;
-    int emitted = 0;
-    timer.timeout().connect([&emitted]() { ++emitted; });
+    Recorder log;
+    log.on(timer.timeout(), "timeout");
     QSignalSpy firings(TimerOf(timer), &QTimer::timeout);
     timer.blockSignals(true);
     timer.start(10);
     ASSERT_TRUE(firings.wait(5000));
     EXPECT_FALSE(timer.isActive());
-    EXPECT_EQ(emitted, 0);
+    EXPECT_EQ(log.count("timeout"), 0);
 
     timer.blockSignals(false);
     ASSERT_TRUE(firings.wait(5000));
-    EXPECT_EQ(emitted, 1);
+    EXPECT_EQ(log.count("timeout"), 1);
     timer.stop();
 }
 
@@ -103,14 +104,14 @@ TEST(CKyUITimerTest, SingleShotRunsOnceOnALaterPassOfTheEventLoop)
 TEST(CKyUITimerTest, NegativeIntervalsAndEmptyCallablesNeverFire)
 {
     CKyUITimer timer;
-    int timeouts = 0;
-    timer.timeout().connect([&timeouts] { ++timeouts; });
+    Recorder log;
+    log.on(timer.timeout(), "timeout");
     timer.start(-1);
     timer.start(INT_MIN);
     bool ran = false;
     CKyUITimer::singleShot(-5, [&ran] { ran = true; });
     CKyUITimer::singleShot(0, std::function<void()>());
     QCoreApplication::processEvents();
-    EXPECT_EQ(timeouts, 0);
+    EXPECT_EQ(log.count("timeout"), 0);
     EXPECT_FALSE(ran);
 }
