@@ -155,18 +155,18 @@ TEST_F(NetworkReply, DeletingTheReplyInsideItsFinishedSlotEndsTheEmission)
     ASSERT_TRUE(toolkit);
     QByteArray body;
     bool deleted = false;
-    int laterSlots = 0;
+    Recorder later;
     reply->finished().connect([reply, &body, &deleted] {
         body = reply->readAll();
         bool* const done = &deleted;
         delete reply;
         *done = true;
     });
-    reply->finished().connect([&laterSlots] { ++laterSlots; });
+    later.on(reply->finished(), "finished");
 
     ASSERT_TRUE(waitUntil([&] { return deleted; }));
     EXPECT_EQ(body, QByteArray("done"));
-    EXPECT_EQ(laterSlots, 0);
+    EXPECT_TRUE(later.lines.isEmpty());
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_TRUE(toolkit.isNull());
 }
@@ -175,11 +175,11 @@ TEST_F(NetworkReply, DeletingTheReplyInsideItsFinishedSlotEndsTheEmission)
 TEST(NetworkReplyHeaders, DistinctNameIndexIsAppliedToTheFullPairList)
 {
     CKyNANetworkReply reply(nullptr);
-    int finishes = 0;
-    reply.finished().connect([&finishes] { ++finishes; });
+    Recorder log;
+    RecordReply(log, &reply);
 
     implOf(reply)->OnFinished(200, Pairs{{"A", "1"}, {"A", "2"}, {"B", "3"}}, nullptr);
-    EXPECT_EQ(finishes, 1);
+    EXPECT_EQ(log.lines, QStringList{"finished"});
     EXPECT_TRUE(reply.isFinished());
     EXPECT_EQ(reply.rawHeaderList(), (QList<QByteArray>{"A", "B"}));
     EXPECT_EQ(reply.rawHeader("A"), QByteArray("1"));
@@ -220,9 +220,8 @@ TEST(NetworkReplyHandle, AnythingButAToolkitReplyGivesNeutralAnswers)
     QPointer<QObject> watch(notAReply);
     {
         CKyNANetworkReply reply(notAReply);
-        int emissions = 0;
-        reply.finished().connect([&emissions] { ++emissions; });
-        reply.error().connect([&emissions](CKyNANetworkReply::NetworkError) { ++emissions; });
+        Recorder log;
+        RecordReply(log, &reply);
 
         EXPECT_EQ(reply.getHandle(), notAReply);
         EXPECT_EQ(errorCode(reply), CKyNANetworkReply::NoError);
@@ -231,7 +230,7 @@ TEST(NetworkReplyHandle, AnythingButAToolkitReplyGivesNeutralAnswers)
         EXPECT_EQ(reply.request(), nullptr);
         EXPECT_TRUE(reply.isRunning());
         reply.abort();
-        EXPECT_EQ(emissions, 0);
+        EXPECT_TRUE(log.lines.isEmpty());
     }
     // Only toolkit replies are released with the reply.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

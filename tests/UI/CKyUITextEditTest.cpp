@@ -1,5 +1,6 @@
 #include "UI/CKyUITextEdit.h"
 #include "support/QtPrinters.h"
+#include "support/Recorder.h"
 #include "support/TestDialogs.h"
 
 #include <gtest/gtest.h>
@@ -17,12 +18,10 @@ QLineEdit* WidgetOf(const CKyUITextEdit& edit)
     return qobject_cast<QLineEdit*>(edit.getHandle());
 }
 
-void Record(CKyUITextEdit& edit, QStringList& log)
+void Record(CKyUITextEdit& edit, Recorder& log)
 {
-    edit.textChanged().connect([&log](QString text) { log.append("changed " + text); });
-    edit.textEdited().connect([&log](QString text) { log.append("edited " + text); });
-    edit.editingFinished().connect([&log] { log.append("finished"); });
-    edit.returnPressed().connect([&log] { log.append("return"); });
+    log.on(edit.textChanged(), "changed").on(edit.textEdited(), "edited");
+    log.on(edit.editingFinished(), "finished").on(edit.returnPressed(), "return");
 }
 
 void ShowAndFocus(QWidget* widget)
@@ -53,50 +52,48 @@ TEST(CKyUITextEditTest, WidthClassGivesThePreferableWidth)
 
 TEST(CKyUITextEditTest, SetTextEmitsChangedEditedChangedAndNothingForTheSameText)
 {
-    QStringList log;
+    Recorder log;
     CKyUITextEdit edit(CKyUITextEdit::Small);
     Record(edit, log);
 
     edit.setText("a");
-    EXPECT_EQ(log, QStringList({"changed a", "edited a", "changed a"}));
+    EXPECT_EQ(log.take(), QStringList({"changed:a", "edited:a", "changed:a"}));
     EXPECT_EQ(edit.text(), "a");
     EXPECT_EQ(WidgetOf(edit)->text(), "a");
 
     // Changed behind the model's back and without a report: setting the
     // stored text again leaves the widget alone.
-    log.clear();
     WidgetOf(edit)->blockSignals(true);
     WidgetOf(edit)->setText("b");
     WidgetOf(edit)->blockSignals(false);
     edit.setText("a");
     edit.setPlainText("a");
-    EXPECT_TRUE(log.isEmpty());
+    EXPECT_TRUE(log.lines.isEmpty());
     EXPECT_EQ(WidgetOf(edit)->text(), "b");
 
     edit.setPlainText("c");
-    EXPECT_EQ(log, QStringList({"changed c", "edited c", "changed c"}));
+    EXPECT_EQ(log.take(), QStringList({"changed:c", "edited:c", "changed:c"}));
     EXPECT_EQ(edit.toPlainText(), "c");
 }
 
 TEST(CKyUITextEditTest, TypingEmitsChangedAndEditedWithTheWholeText)
 {
-    QStringList log;
+    Recorder log;
     CKyUITextEdit edit(CKyUITextEdit::Small);
     Record(edit, log);
 
     QTest::keyClicks(WidgetOf(edit), "ab");
-    EXPECT_EQ(log, QStringList({"changed a", "edited a", "changed ab", "edited ab"}));
+    EXPECT_EQ(log.take(), QStringList({"changed:a", "edited:a", "changed:ab", "edited:ab"}));
     EXPECT_EQ(edit.text(), "ab");
 
-    log.clear();
     QTest::keyClick(WidgetOf(edit), Qt::Key_Backspace);
-    EXPECT_EQ(log, QStringList({"changed a", "edited a"}));
+    EXPECT_EQ(log.take(), QStringList({"changed:a", "edited:a"}));
     EXPECT_EQ(edit.text(), "a");
 }
 
 TEST(CKyUITextEditTest, BlockedSignalsStillLetTheTextFollowTheWidget)
 {
-    QStringList log;
+    Recorder log;
     CKyUITextEdit edit(CKyUITextEdit::Small);
     Record(edit, log);
 
@@ -106,25 +103,25 @@ TEST(CKyUITextEditTest, BlockedSignalsStillLetTheTextFollowTheWidget)
     edit.setText("z");
     EXPECT_EQ(edit.text(), "z");
     QTest::keyClick(WidgetOf(edit), Qt::Key_Return);
-    EXPECT_TRUE(log.isEmpty());
+    EXPECT_TRUE(log.lines.isEmpty());
 
     edit.blockSignals(false);
     QTest::keyClick(WidgetOf(edit), Qt::Key_Return);
-    EXPECT_EQ(log, QStringList({"return"}));
+    EXPECT_EQ(log.take(), QStringList({"return"}));
 }
 
 TEST(CKyUITextEditTest, ReturnAndEnterNeverReachTheDialogsDefaultButton)
 {
     RecordingHost host;
     SampleDialog dialog;
-    QStringList log;
+    Recorder log;
     CKyUITextEdit* edit = nullptr;
     dialog.afterSetup = [&](SampleDialog& self) {
         edit = new CKyUITextEdit(CKyUITextEdit::Large);
         self.GetLayout()->insertView(edit, 0);
         edit->setText("value");
         Record(*edit, log);
-        self.box->accepted().connect([&log] { log.append("box accepted"); });
+        log.on(self.box->accepted(), "box accepted");
     };
 
     bool runningAfterKeys = false;
@@ -142,7 +139,7 @@ TEST(CKyUITextEditTest, ReturnAndEnterNeverReachTheDialogsDefaultButton)
 
     EXPECT_TRUE(runningAfterKeys);
     EXPECT_EQ(result, 0);
-    EXPECT_EQ(log, QStringList({"return", "return"}));
+    EXPECT_EQ(log.take(), QStringList({"return", "return"}));
     EXPECT_EQ(edit->text(), "value");
 }
 
@@ -174,7 +171,7 @@ TEST(CKyUITextEditTest, PlaceholderAndMaskAreForwardedOnlyWhenChangedTheClearBut
 
 TEST(CKyUITextEditTest, PublicNoOperationsLeaveWidgetAndTextAlone)
 {
-    QStringList log;
+    Recorder log;
     CKyUITextEdit edit(CKyUITextEdit::Small);
     edit.setText("keep me");
     QLineEdit* widget = WidgetOf(edit);
@@ -193,7 +190,7 @@ TEST(CKyUITextEditTest, PublicNoOperationsLeaveWidgetAndTextAlone)
     EXPECT_FALSE(widget->isReadOnly());
     EXPECT_EQ(widget->cursorPosition(), 2);
     EXPECT_EQ(widget->echoMode(), QLineEdit::Normal);
-    EXPECT_TRUE(log.isEmpty());
+    EXPECT_TRUE(log.lines.isEmpty());
 }
 
 TEST(CKyUITextEditTest, SetFocusGivesTheWidgetTheFocus)
