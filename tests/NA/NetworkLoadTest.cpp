@@ -138,26 +138,17 @@ TEST(WebSocketLoad, HundredThousandTextMessagesArriveInOrder)
     WebSocketTestServer server;
     ASSERT_TRUE(server.isListening());
     CKyNAWebSocket socket(QString(), CKyNAWebSocketProtocol::VersionLatest);
-    bool connected = false;
-    socket.connected().connect([&connected] { connected = true; });
+    Recorder log;
+    RecordSocket(log, socket);
     const int count = 100000;
-    std::vector<QString> received;
-    received.reserve(count);
-    socket.textMessageReceived().connect(
-        [&received](const QString& message) { received.push_back(message); });
-
     socket.open(CKyNANetworkRequest(server.url()));
-    ASSERT_TRUE(waitUntil([&] { return connected && server.peer(); }));
-    for (int i = 0; i < count; ++i)
-        server.sendText(QString::number(i));
-    ASSERT_TRUE(waitUntil([&] { return received.size() >= size_t(count); }, 60000));
-
-    ASSERT_EQ(received.size(), size_t(count));
-    int outOfOrder = 0;
+    ASSERT_TRUE(waitUntil([&] { return log.has(QStringLiteral("connected")) && server.peer(); }));
+    QStringList expected{QStringLiteral("connected")};
     for (int i = 0; i < count; ++i) {
-        if (received[i] != QString::number(i))
-            ++outOfOrder;
+        server.sendText(QString::number(i));
+        expected << QStringLiteral("text:%1").arg(i);
     }
-    EXPECT_EQ(outOfOrder, 0);
+    ASSERT_TRUE(waitUntil([&] { return log.lines.size() >= expected.size(); }, 60000));
+    EXPECT_TRUE(log.lines == expected);
     socket.blockSignals(true);
 }

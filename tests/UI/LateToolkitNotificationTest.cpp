@@ -1,3 +1,4 @@
+#include "support/Recorder.h"
 #include "UI/CKyUITextEdit.h"
 #include "UI/CKyUITextView.h"
 #include "UI/Impl/qt/CKyUITextEditFrontend.h"
@@ -40,10 +41,8 @@ struct FocusNeighbour
 TEST(LateToolkitNotification, ATextEditsWidgetTypedIntoAfterTheViewWentReachesNobody)
 {
     auto* edit = new CKyUITextEdit(CKyUITextEdit::Medium);
-    int reports = 0;
-    edit->textChanged().connect([&reports](const QString&) { ++reports; });
-    edit->textEdited().connect([&reports](const QString&) { ++reports; });
-    edit->returnPressed().connect([&reports] { ++reports; });
+    Recorder log;
+    log.on(edit->textChanged(), "changed").on(edit->textEdited(), "edited").on(edit->returnPressed(), "return");
     QPointer<CKyUITextEditFrontend> widget(qobject_cast<CKyUITextEditFrontend*>(edit->getHandle()));
     ASSERT_TRUE(widget);
     widget->show();
@@ -54,7 +53,7 @@ TEST(LateToolkitNotification, ATextEditsWidgetTypedIntoAfterTheViewWentReachesNo
     QTest::keyClicks(widget.data(), "late");
     QTest::keyClick(widget.data(), Qt::Key_Return);
     widget->setText("set late");
-    EXPECT_EQ(reports, 0);
+    EXPECT_TRUE(log.lines.isEmpty());
 
     RunDeferredDeletions();
     EXPECT_TRUE(widget.isNull());
@@ -65,10 +64,8 @@ TEST(LateToolkitNotification, ATextViewsWidgetFocusedAndEditedAfterTheViewWentRe
     FocusNeighbour neighbour;
     auto* view = new CKyUITextView;
     view->setAdjustHeightToContent(true);
-    int reports = 0;
-    view->textChanged().connect([&reports] { ++reports; });
-    view->focusInEventSignal().connect([&reports] { ++reports; });
-    view->focusOutEventSignal().connect([&reports] { ++reports; });
+    Recorder log;
+    log.on(view->textChanged(), "changed").on(view->focusInEventSignal(), "in").on(view->focusOutEventSignal(), "out");
     QPointer<CKyUITextViewFrontend> widget(qobject_cast<CKyUITextViewFrontend*>(view->getHandle()));
     ASSERT_TRUE(widget);
     widget->show();
@@ -87,7 +84,7 @@ TEST(LateToolkitNotification, ATextViewsWidgetFocusedAndEditedAfterTheViewWentRe
     widget->append("appended late");
     QApplication::setActiveWindow(&neighbour.widget);
     neighbour.widget.setFocus(Qt::OtherFocusReason);
-    EXPECT_EQ(reports, 0);
+    EXPECT_TRUE(log.lines.isEmpty());
 
     RunDeferredDeletions();
     EXPECT_TRUE(widget.isNull());
