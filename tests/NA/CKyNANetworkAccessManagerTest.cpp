@@ -219,6 +219,7 @@ TEST_F(NetworkAccessManager, RequestsWithoutToolkitRequestOrUrl)
     Recorder recorder;
     RecordReply(recorder, reply.get());
     ASSERT_TRUE(waitUntil([&] { return recorder.has(QStringLiteral("finished")); }));
-    EXPECT_EQ(Outcome(recorder), (QStringList{QStringLiteral("error:%1").arg(int(CKyNANetworkReply::ProtocolUnknownError)),
-                                         QStringLiteral("finished")}));
+    EXPECT_EQ(Outcome(recorder),
+              (QStringList{QStringLiteral("error:%1").arg(int(CKyNANetworkReply::ProtocolUnknownError)),
+                           QStringLiteral("finished")}));
 }

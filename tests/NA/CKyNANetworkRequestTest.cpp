@@ -139,7 +139,8 @@ TEST(CKyNANetworkRequest, KnownHeadersByName)
     EXPECT_FALSE(request.header(R::LocationHeader).isValid());
     request.setHeader(R::LocationHeader, QUrl(QStringLiteral("http://a/")));
     request.setHeader(R::LocationHeader, QUrl(QStringLiteral("http://b/")));
-    EXPECT_EQ(request.getHandle()->header(QNetworkRequest::LocationHeader).toUrl(), QUrl(QStringLiteral("http://b/")));
+    EXPECT_EQ(request.getHandle()->header(QNetworkRequest::LocationHeader).toUrl(),
+              QUrl(QStringLiteral("http://b/")));
     request.getHandle()->setHeader(QNetworkRequest::LocationHeader, QUrl(QStringLiteral("http://c/")));
     EXPECT_EQ(request.header(R::LocationHeader).toUrl(), QUrl(QStringLiteral("http://b/")));
 }

@@ -2,8 +2,8 @@
 #include "NA/CKyNANetworkRequest.h"
 
 #include "NA/EventWait.h"
-#include "NA/NetworkSignals.h"
 #include "NA/HttpTestServer.h"
+#include "NA/NetworkSignals.h"
 #include "NA/WebSocketTestServer.h"
 
 #include <QtCore/QPointer>
@@ -55,7 +55,7 @@ TEST_F(WebSocket, TextMessagesArriveInOrderAndBinaryOnesAreNotReported)
     server.sendText(QStringLiteral("three"));
     ASSERT_TRUE(waitUntil([this] { return recorder.has(QStringLiteral("text:three")); }));
     EXPECT_EQ(Outcome(recorder), (QStringList{QStringLiteral("connected"), QStringLiteral("text:one"),
-                                         QStringLiteral("text:two"), QStringLiteral("text:three")}));
+                                              QStringLiteral("text:two"), QStringLiteral("text:three")}));
 }
 
 TEST_F(WebSocket, ClosingWithNormalCodeLeadsToDisconnected)

@@ -126,7 +126,8 @@ TEST_F(NetworkLoad, TenMegabyteBodyArrivesIntact)
     ASSERT_TRUE(waitUntil([&] { return recorder.has(QStringLiteral("finished")); }, 30000));
 
     EXPECT_EQ(Outcome(recorder), QStringList{QStringLiteral("finished")});
-    EXPECT_EQ(recorder.last(QStringLiteral("downloadProgress")).section(QLatin1Char(','), 0, 0).toLongLong(), big.body.size());
+    EXPECT_EQ(recorder.last(QStringLiteral("downloadProgress")).section(QLatin1Char(','), 0, 0).toLongLong(),
+              big.body.size());
     EXPECT_EQ(reply->bytesAvailable(), big.body.size());
     const QByteArray body = reply->readAll();
     EXPECT_EQ(body.size(), big.body.size());

@@ -72,7 +72,8 @@ TEST_F(NetworkReplyFault, EachFaultGivesItsErrorThenFinishedBeforeTheTimeout)
         {"malformed status line", server.url(QStringLiteral("/malformed")),
          CKyNANetworkReply::RemoteHostClosedError},
         {"no HTTP at all", server.url(QStringLiteral("/not-http")), CKyNANetworkReply::RemoteHostClosedError},
-        {"closed without an answer", server.url(QStringLiteral("/hang-up")), CKyNANetworkReply::RemoteHostClosedError},
+        {"closed without an answer", server.url(QStringLiteral("/hang-up")),
+         CKyNANetworkReply::RemoteHostClosedError},
         {"connection refused", refused.url(), CKyNANetworkReply::ConnectionRefusedError},
     };
     const int timeout = 10000;

@@ -1,8 +1,8 @@
-#include "support/Recorder.h"
 #include "UI/CKyUIAction.h"
 #include "UI/CKyUIMenu.h"
 #include "UI/Impl/CKyUIActionImpl.h"
 #include "UI/Impl/CKyUIMenuImpl.h"
+#include "support/Recorder.h"
 #include "support/TestViews.h"
 
 #include <gtest/gtest.h>
@@ -34,8 +34,7 @@ class WatchedAction : public CKyUIAction
 public:
     explicit WatchedAction(bool* gone)
         : m_gone(gone)
-    {
-    }
+    {}
     ~WatchedAction() override { *m_gone = true; }
 
 private:

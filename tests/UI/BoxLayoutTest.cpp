@@ -89,7 +89,8 @@ TEST(BoxLayoutTest, InsertPlacesAtTheIndexOrAtTheEnd)
         else if (kind == 1)
             layout.reset(new CKyUIVerticalLayout);
         else
-            layout.reset(new CKyUIGroupBox(kind == 2 ? CKyUIGroupBox::Horizontal : CKyUIGroupBox::Vertical, false));
+            layout.reset(
+                new CKyUIGroupBox(kind == 2 ? CKyUIGroupBox::Horizontal : CKyUIGroupBox::Vertical, false));
         HandleView* last = NewLabelView();
         HandleView* first = NewLabelView();
         layout->addView(last, 0);

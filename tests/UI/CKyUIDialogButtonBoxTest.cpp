@@ -20,7 +20,9 @@ void Record(CKyUIDialogButtonBox& box, Recorder& log)
 {
     log.on(box.accepted(), "accepted").on(box.rejected(), "rejected").on(box.helpRequest(), "helpRequest");
     const std::pair<CKyUIDialogButtonBox::StandardButton, QString> wrappers[] = {
-        {CKyUIDialogButtonBox::Ok, "Ok"}, {CKyUIDialogButtonBox::Cancel, "Cancel"}, {CKyUIDialogButtonBox::Help, "Help"}};
+        {CKyUIDialogButtonBox::Ok, "Ok"},
+        {CKyUIDialogButtonBox::Cancel, "Cancel"},
+        {CKyUIDialogButtonBox::Help, "Help"}};
     box.clicked().connect([&log, &box, wrappers](CKyUIPushButton* which) {
         QString name = "?";
         for (const auto& wrapper : wrappers)

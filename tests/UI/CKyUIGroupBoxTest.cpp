@@ -1,7 +1,7 @@
-#include "support/Recorder.h"
 #include "UI/CKyUIGroupBox.h"
 #include "UI/CKyUIRadioGroup.h"
 #include "UI/CKyUIVerticalLayout.h"
+#include "support/Recorder.h"
 #include "support/TestViews.h"
 
 #include <gtest/gtest.h>

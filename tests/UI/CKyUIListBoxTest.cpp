@@ -1,6 +1,6 @@
-#include "support/Recorder.h"
 #include "UI/CKyUIListBox.h"
 #include "UI/Impl/CKyUIListBoxImpl.h"
+#include "support/Recorder.h"
 
 #include <gtest/gtest.h>
 

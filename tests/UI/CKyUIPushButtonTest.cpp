@@ -1,7 +1,7 @@
-#include "support/Recorder.h"
 #include "UI/CKyUIPushButton.h"
 #include "UI/Impl/CKyUIPushButtonImpl.h"
 #include "UI/Impl/qt/CKyUIPushButtonFrontend.h"
+#include "support/Recorder.h"
 
 #include <gtest/gtest.h>
 

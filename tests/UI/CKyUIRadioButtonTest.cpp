@@ -1,6 +1,6 @@
-#include "support/Recorder.h"
 #include "UI/CKyUIRadioButton.h"
 #include "support/QtPrinters.h"
+#include "support/Recorder.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
-#include "support/Recorder.h"
 #include "UI/CKyUIRadioGroup.h"
 #include "UI/CKyUIGroupBox.h"
 #include "UI/CKyUIRadioButton.h"
 #include "support/QtPrinters.h"
+#include "support/Recorder.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
-#include "support/Recorder.h"
 #include "UI/CKyUISlider.h"
 #include "UI/CKyUIVerticalLayout.h"
 #include "UI/Impl/CKyUISliderImpl.h"
+#include "support/Recorder.h"
 
 #include <gtest/gtest.h>
 

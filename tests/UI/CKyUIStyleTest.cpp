@@ -16,7 +16,8 @@
 int qInitResources_commonui_qt();
 int qCleanupResources_commonui_qt();
 
-namespace {
+namespace
+{
 
 const char* const kPaletteNames[] = {"clone", "jango", "snoke", "vader", "rey",
                                      "obi",   "kylo",  "light", "dark"};

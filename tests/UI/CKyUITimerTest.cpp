@@ -1,6 +1,6 @@
-#include "support/Recorder.h"
 #include "UI/CKyUITimer.h"
 #include "UI/Impl/CKyUITimerImpl.h"
+#include "support/Recorder.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
-#include "support/Recorder.h"
 #include "UI/CKyUITextEdit.h"
 #include "UI/CKyUITextView.h"
 #include "UI/Impl/qt/CKyUITextEditFrontend.h"
 #include "UI/Impl/qt/CKyUITextViewFrontend.h"
+#include "support/Recorder.h"
 
 #include <gtest/gtest.h>
 
@@ -42,7 +42,9 @@ TEST(LateToolkitNotification, ATextEditsWidgetTypedIntoAfterTheViewWentReachesNo
 {
     auto* edit = new CKyUITextEdit(CKyUITextEdit::Medium);
     Recorder log;
-    log.on(edit->textChanged(), "changed").on(edit->textEdited(), "edited").on(edit->returnPressed(), "return");
+    log.on(edit->textChanged(), "changed")
+        .on(edit->textEdited(), "edited")
+        .on(edit->returnPressed(), "return");
     QPointer<CKyUITextEditFrontend> widget(qobject_cast<CKyUITextEditFrontend*>(edit->getHandle()));
     ASSERT_TRUE(widget);
     widget->show();
@@ -65,7 +67,9 @@ TEST(LateToolkitNotification, ATextViewsWidgetFocusedAndEditedAfterTheViewWentRe
     auto* view = new CKyUITextView;
     view->setAdjustHeightToContent(true);
     Recorder log;
-    log.on(view->textChanged(), "changed").on(view->focusInEventSignal(), "in").on(view->focusOutEventSignal(), "out");
+    log.on(view->textChanged(), "changed")
+        .on(view->focusInEventSignal(), "in")
+        .on(view->focusOutEventSignal(), "out");
     QPointer<CKyUITextViewFrontend> widget(qobject_cast<CKyUITextViewFrontend*>(view->getHandle()));
     ASSERT_TRUE(widget);
     widget->show();

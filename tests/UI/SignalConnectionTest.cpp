@@ -28,7 +28,8 @@
 
 // Connecting: identifiers, connections that fail, scoped connections.
 
-namespace {
+namespace
+{
 
 TEST(SignalBase, IdentifiersCountFromZeroAndAreNeverReused)
 {
@@ -49,7 +50,8 @@ TEST(SignalBase, IdentifiersCountFromZeroAndAreNeverReused)
 }
 
 // A capture whose copy fails on demand.
-struct CopyMayFail {
+struct CopyMayFail
+{
     static bool fail;
     CopyMayFail() = default;
     CopyMayFail(const CopyMayFail&)
@@ -127,7 +129,8 @@ TEST(SignalBase, ScopedConnectionDisconnectsWhenDestroyedOrReplaced)
     EXPECT_EQ(calls, 102);
 }
 
-struct EightBitTraits {
+struct EightBitTraits
+{
     using slot_id = std::uint8_t;
 };
 using SmallSignal = slimsig::signal_base<EightBitTraits, std::allocator<std::function<void()>>, void()>;

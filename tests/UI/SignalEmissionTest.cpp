@@ -1,8 +1,8 @@
 #include "UI/CKyUIObject.h"
 #include "UI/CKyUISignal.h"
 #include "UI/slimsig/detail/signal_base"
-#include "support/SignalTesting.h"
 #include "support/Recorder.h"
+#include "support/SignalTesting.h"
 
 #include <gtest/gtest.h>
 
@@ -18,7 +18,8 @@
 #pragma push_macro("emit")
 #undef emit
 
-namespace {
+namespace
+{
 
 TEST(SignalEmission, WithoutSlotsChangesNothing)
 {
@@ -58,7 +59,8 @@ TEST(SignalEmission, ARunningSlotKeepsItsStateWhileItsConnectsMoveTheArray)
 }
 
 // Records how a value reached a slot: the number of copies along its way.
-struct Traced {
+struct Traced
+{
     static int copies;
     int copiesOnTheWay = 0;
 
@@ -70,8 +72,7 @@ struct Traced {
     }
     Traced(Traced&& other) noexcept
         : copiesOnTheWay(other.copiesOnTheWay)
-    {
-    }
+    {}
     Traced& operator=(const Traced&) = delete;
     Traced& operator=(Traced&&) = delete;
 };

@@ -17,7 +17,8 @@
 
 // Lifetime: signals destroyed from their own slots, connections outliving their signal.
 
-namespace {
+namespace
+{
 
 // A slot may destroy the signal that calls it (a client deleting the object
 // that owns it). Its own captures die with the signal, so such slots copy

@@ -76,7 +76,9 @@ struct Row
 TEST(StyleSheetRewriting, EachRuleOverSheetsOfEveryShape)
 {
     const auto width = [](float w) { return [w](CKyUIBaseView& v) { v.setBorderWidth(w); }; };
-    const auto colour = [](int r, int g, int b) { return [=](CKyUIBaseView& v) { v.setBorderColor(r, g, b); }; };
+    const auto colour = [](int r, int g, int b) {
+        return [=](CKyUIBaseView& v) { v.setBorderColor(r, g, b); };
+    };
     const auto twice = [](Apply first, Apply second) {
         return [=](CKyUIBaseView& v) {
             first(v);
@@ -85,7 +87,8 @@ TEST(StyleSheetRewriting, EachRuleOverSheetsOfEveryShape)
     };
     const Row rows[] = {
         {Kind::Frame, "", width(2), "border-style:solid;border-width:2px;"},
-        {Kind::Frame, "QFrame{border: 1px solid red;}", width(3), "QFrame{border-style:solid;border-width:3px;}"},
+        {Kind::Frame, "QFrame{border: 1px solid red;}", width(3),
+         "QFrame{border-style:solid;border-width:3px;}"},
         {Kind::Frame, "QFrame { }", width(1.5f), "QFrame { border-style:solid;border-width:1.5px;}"},
         // Widths with a zero are never matched again: the sheet grows.
         {Kind::Frame, "", twice(width(1), width(2)), "border-width:1px;border-style:solid;border-width:2px;"},
@@ -102,7 +105,8 @@ TEST(StyleSheetRewriting, EachRuleOverSheetsOfEveryShape)
         // A one-character value is the only one the expression removes.
         {Kind::Frame, "border-color: x;", colour(0, 0, 0), "border-color: #000000;"},
         // The shorthand goes, and with it any width written in it.
-        {Kind::Frame, "QFrame{border: 2px solid blue;}", colour(16, 32, 48), "QFrame{border-color: #102030;}"},
+        {Kind::Frame, "QFrame{border: 2px solid blue;}", colour(16, 32, 48),
+         "QFrame{border-color: #102030;}"},
         // Channels outside 0 to 255 leave the toolkit's invalid colour, black.
         {Kind::Frame, "QFrame { }", colour(-1, 256, INT_MAX), "QFrame { border-color: #000000;}"},
         {Kind::Frame, "}", Background(0x010203), "background-color: #010203;}"},
@@ -113,7 +117,8 @@ TEST(StyleSheetRewriting, EachRuleOverSheetsOfEveryShape)
              v.setPalette(palette);
          },
          "QFrame {  background-color: #112233;border-color: #778899;}"},
-        {Kind::Frame, "QFrame { background-color: #808080; }", twice(Background(0x646464), Background(0x123456)),
+        {Kind::Frame, "QFrame { background-color: #808080; }",
+         twice(Background(0x646464), Background(0x123456)),
          "QFrame { background-color: #808080; background-color: #123456;}"},
         // A disabled view stores the palette only, also once enabled again.
         {Kind::Frame, "QFrame { }",
@@ -136,13 +141,15 @@ TEST(StyleSheetRewriting, EachRuleOverSheetsOfEveryShape)
         {Kind::Label, nullptr, Label([](CKyUILabel& l) { l.setFontSize(12), l.setFontSize(12); }),
          "QLabel { font-size:12px;}"},
         // Neither a zero nor a minus sign is matched again.
-        {Kind::Label, nullptr, Label([](CKyUILabel& l) { l.setFontSize(10), l.setFontSize(12), l.setFontSize(13); }),
+        {Kind::Label, nullptr,
+         Label([](CKyUILabel& l) { l.setFontSize(10), l.setFontSize(12), l.setFontSize(13); }),
          "QLabel { font-size:10px;font-size:13px;}"},
         {Kind::Label, nullptr, Label([](CKyUILabel& l) { l.setFontSize(-3), l.setFontSize(9); }),
          "QLabel { font-size:-3px;font-size:9px;}"},
         {Kind::Label, nullptr, Label([](CKyUILabel& l) { l.setFontSize(INT_MIN); }),
          "QLabel { font-size:-2147483648px;}"},
-        {Kind::Label, "color: red;", Label([](CKyUILabel& l) { l.setFontSize(11); }), "color: red;font-size:11px;"},
+        {Kind::Label, "color: red;", Label([](CKyUILabel& l) { l.setFontSize(11); }),
+         "color: red;font-size:11px;"},
         {Kind::Label, nullptr, Label([](CKyUILabel& l) { l.setBoldText(true), l.setBoldText(false); }),
          "QLabel { font-weight: normal;}"},
         // The label's weight admits the digits 1 to 9, not 600.
@@ -152,15 +159,13 @@ TEST(StyleSheetRewriting, EachRuleOverSheetsOfEveryShape)
 
         {Kind::Button, nullptr, Button([](CKyUIPushButton& b) { b.setTextAlignment(CKyUIPushButton::Left); }),
          "QPushButton { text-align:left;}"},
-        {Kind::Button, nullptr,
-         Button([](CKyUIPushButton& b) {
+        {Kind::Button, nullptr, Button([](CKyUIPushButton& b) {
              b.setTextAlignment(CKyUIPushButton::Center);
              b.setTextAlignment(CKyUIPushButton::Right);
          }),
          "QPushButton { text-align:right;}"},
         // Out of range: the old alignment goes and nothing takes its place.
-        {Kind::Button, nullptr,
-         Button([](CKyUIPushButton& b) {
+        {Kind::Button, nullptr, Button([](CKyUIPushButton& b) {
              b.setTextAlignment(CKyUIPushButton::Left);
              b.setTextAlignment(CKyUIPushButton::TextAlignment(7));
          }),
@@ -168,15 +173,16 @@ TEST(StyleSheetRewriting, EachRuleOverSheetsOfEveryShape)
         {Kind::Button, "QPushButton { text-align \t: \tright ; color: red; }",
          Button([](CKyUIPushButton& b) { b.setTextAlignment(CKyUIPushButton::Left); }),
          "QPushButton {  color: red; text-align:left;}"},
-        {Kind::Button, "color: red;", Button([](CKyUIPushButton& b) { b.setTextAlignment(CKyUIPushButton::Center); }),
+        {Kind::Button, "color: red;",
+         Button([](CKyUIPushButton& b) { b.setTextAlignment(CKyUIPushButton::Center); }),
          "color: red;text-align:center;"},
         {Kind::Button, nullptr, Button([](CKyUIPushButton& b) { b.setBoldText(true), b.setBoldText(false); }),
          "QPushButton { font-weight: normal;}"},
         // The button's weight admits no digit at all.
-        {Kind::Button, "QPushButton { font-weight: 600; }", Button([](CKyUIPushButton& b) { b.setBoldText(true); }),
+        {Kind::Button, "QPushButton { font-weight: 600; }",
+         Button([](CKyUIPushButton& b) { b.setBoldText(true); }),
          "QPushButton { font-weight: 600; font-weight: bold;}"},
-        {Kind::Button, nullptr,
-         Button([](CKyUIPushButton& b) {
+        {Kind::Button, nullptr, Button([](CKyUIPushButton& b) {
              b.setBorderWidth(2);
              b.setTextAlignment(CKyUIPushButton::Left);
              b.setBoldText(true);
@@ -256,15 +262,17 @@ TEST(StyleSheetRewriting, AnySheetAndValueKeepsEachRulesDeclarationLast)
     const unsigned seed = EnvironmentNumber("COMMONUI_FUZZ_SEED", 20240611u);
     SCOPED_TRACE(::testing::Message() << "COMMONUI_FUZZ_SEED=" << seed);
     std::mt19937 random(seed);
-    const auto between = [&random](int low, int high) { return std::uniform_int_distribution<int>(low, high)(random); };
+    const auto between = [&random](int low, int high) {
+        return std::uniform_int_distribution<int>(low, high)(random);
+    };
     const QtMessageHandler previous =
         qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
 
     static const char* const pieces[] = {
-        "{",           "}",          "}}",     ";",          ":",           " ",          "\n",      "border",
-        "-width",      "-style",     "-color", "border-left", "background", "-color",      "text-align", "font-weight",
-        "font-size",   "QLabel",     "#",      "0",          "1",           "9",          "px",      "solid",
-        "bold",        "left",       "/*",     "*/",         "\"",          "\\",         "-1",      "\xe9"};
+        "{",         "}",      "}}",     ";",           ":",          " ",      "\n",         "border",
+        "-width",    "-style", "-color", "border-left", "background", "-color", "text-align", "font-weight",
+        "font-size", "QLabel", "#",      "0",           "1",          "9",      "px",         "solid",
+        "bold",      "left",   "/*",     "*/",          "\"",         "\\",     "-1",         "\xe9"};
     const auto sheet = [&]() {
         QString text;
         if (between(0, 4) == 0) { // random bytes, sometimes broken UTF-8
@@ -277,13 +285,20 @@ TEST(StyleSheetRewriting, AnySheetAndValueKeepsEachRulesDeclarationLast)
             text += QString::fromLatin1(pieces[between(0, int(std::size(pieces)) - 1)]);
         return text;
     };
-    const float widths[] = {std::numeric_limits<float>::quiet_NaN(), std::numeric_limits<float>::infinity(),
-                            -std::numeric_limits<float>::infinity(), 1e30f, -1.5f, 0.0f, 2.0f, 7.25f};
+    const float widths[] = {std::numeric_limits<float>::quiet_NaN(),
+                            std::numeric_limits<float>::infinity(),
+                            -std::numeric_limits<float>::infinity(),
+                            1e30f,
+                            -1.5f,
+                            0.0f,
+                            2.0f,
+                            7.25f};
     const int numbers[] = {INT_MIN, INT_MAX, -300, -1, 0, 9, 10, 255, 256, 600};
 
     CKyUILabel label;
     CKyUIPushButton button;
-    for (unsigned round = 0, rounds = EnvironmentNumber("COMMONUI_FUZZ_ROUNDS", 400u); round < rounds; ++round) {
+    for (unsigned round = 0, rounds = EnvironmentNumber("COMMONUI_FUZZ_ROUNDS", 400u); round < rounds;
+         ++round) {
         const bool onLabel = between(0, 1);
         CKyUIBaseView& view = onLabel ? static_cast<CKyUIBaseView&>(label) : button;
         auto* widget = qobject_cast<QWidget*>(view.getHandle());
@@ -293,7 +308,8 @@ TEST(StyleSheetRewriting, AnySheetAndValueKeepsEachRulesDeclarationLast)
             const float w = widths[between(0, int(std::size(widths)) - 1)];
             const int n = numbers[between(0, int(std::size(numbers)) - 1)];
             const bool bold = between(0, 1);
-            const QString weight = bold ? QStringLiteral("font-weight: bold;") : QStringLiteral("font-weight: normal;");
+            const QString weight =
+                bold ? QStringLiteral("font-weight: bold;") : QStringLiteral("font-weight: normal;");
             const QString before = widget->styleSheet();
             QString declaration;
             switch (between(0, 4)) {

@@ -9,7 +9,8 @@
 // whatever is found here was registered by the library's own static
 // initialiser. How the icons look is seen in the gallery pictures.
 
-namespace {
+namespace
+{
 
 const char kSheetPath[] = ":/commonui/resources/qss/style.qss";
 const char kPalettePath[] = ":/commonui/resources/qss/style.colors";

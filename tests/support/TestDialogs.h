@@ -107,4 +107,3 @@ public:
 private:
     CKyDocumentHost* const m_previous;
 };
-

@@ -110,8 +110,9 @@ void CKyUIBaseViewImpl::SetTabOrderImpl(CKyUIObject* first, CKyUIObject* second)
 
 void CKyUIBaseViewImpl::SetBorderWidthImpl(float width)
 {
-    static const QList<QRegExp> removals = StyleSheetRewriter::Patterns({kBorderShorthand,  kBorderStyle,      kBorderLeftWidth,
-                                            kBorderTopWidth,   kBorderRightWidth, kBorderBottomWidth});
+    static const QList<QRegExp> removals =
+        StyleSheetRewriter::Patterns({kBorderShorthand, kBorderStyle, kBorderLeftWidth, kBorderTopWidth,
+                                      kBorderRightWidth, kBorderBottomWidth});
     const QString declaration =
         QStringLiteral("border-style:solid;border-width:%1px;").arg(static_cast<double>(width));
     StyleSheetRewriter::Apply(GetWidget(), removals, declaration, Insertion::BeforeLastBraceAfterStart);
@@ -119,9 +120,9 @@ void CKyUIBaseViewImpl::SetBorderWidthImpl(float width)
 
 void CKyUIBaseViewImpl::SetBorderWidthImpl(float left, float top, float right, float bottom)
 {
-    static const QList<QRegExp> removals = StyleSheetRewriter::Patterns({kBorderShorthand, kBorderStyle,      kBorderSideStyle,
-                                            kBorderLeftWidth, kBorderTopWidth,   kBorderRightWidth,
-                                            kBorderBottomWidth});
+    static const QList<QRegExp> removals =
+        StyleSheetRewriter::Patterns({kBorderShorthand, kBorderStyle, kBorderSideStyle, kBorderLeftWidth,
+                                      kBorderTopWidth, kBorderRightWidth, kBorderBottomWidth});
     const auto number = [](float value) { return QString::number(static_cast<double>(value), 'g', 6); };
     const QString declaration =
         QStringLiteral("border-left-style:solid;border-top-style:solid;border-right-style:solid;"
