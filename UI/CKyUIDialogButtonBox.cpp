@@ -14,15 +14,15 @@ CKyUIDialogButtonBox::CKyUIDialogButtonBox(CKyUIDialog* dialog)
     setParent(dialog);
 
     // None of these is ever disconnected. The two on the dialog may outlive
-    // the box, so they look it up through its lifetime token.
-    const std::weak_ptr<CKyUIDialogButtonBoxImpl*> lifetime = impl->Lifetime();
-    dialog->accepted().connect([lifetime]() {
-        if (const auto alive = lifetime.lock())
-            (*alive)->Button(Ok)->clicked().Emit(true);
+    // the box, so they ask its lifetime first.
+    const CKyUIObjectImpl::Lifetime lifetime = impl->GetLifetime();
+    dialog->accepted().connect([impl, lifetime]() {
+        if (lifetime.Alive())
+            impl->Button(Ok)->clicked().Emit(true);
     });
-    dialog->rejected().connect([lifetime]() {
-        if (const auto alive = lifetime.lock())
-            (*alive)->Button(Cancel)->clicked().Emit(true);
+    dialog->rejected().connect([impl, lifetime]() {
+        if (lifetime.Alive())
+            impl->Button(Cancel)->clicked().Emit(true);
     });
     impl->Button(Ok)->clicked().connect([impl](bool) { impl->Accepted().Emit(); });
     impl->Button(Cancel)->clicked().connect([impl](bool) { impl->Rejected().Emit(); });

@@ -1,25 +1,5 @@
 #include "NA/Impl/CKyNAWebSocketImpl.h"
 
-namespace
-{
-
-// Counts one report of the toolkit socket for as long as it is under way.
-class Reporting
-{
-public:
-    explicit Reporting(std::shared_ptr<int> count)
-        : m_count(std::move(count))
-    {
-        ++*m_count;
-    }
-    ~Reporting() { --*m_count; }
-
-private:
-    const std::shared_ptr<int> m_count;
-};
-
-} // namespace
-
 CKyNAWebSocketImpl::CKyNAWebSocketImpl(CKyNAWebSocket* owner, const QString& origin,
                                        CKyNAWebSocketProtocol::Version version)
     : CKyUIObjectImpl(owner)
@@ -50,24 +30,20 @@ void CKyNAWebSocketImpl::close(CKyNAWebSocketProtocol::CloseCode code, const QSt
 
 void CKyNAWebSocketImpl::OnConnected()
 {
-    const Reporting reporting(m_reporting);
-    connectedSignal.Emit();
+    EmitInOrder([this] { connectedSignal.Emit(); });
 }
 
 void CKyNAWebSocketImpl::OnError(int error)
 {
-    const Reporting reporting(m_reporting);
-    errorSignal.Emit(error);
+    EmitInOrder([&] { errorSignal.Emit(error); });
 }
 
 void CKyNAWebSocketImpl::OnDisconnected()
 {
-    const Reporting reporting(m_reporting);
-    disconnectedSignal.Emit();
+    EmitInOrder([this] { disconnectedSignal.Emit(); });
 }
 
 void CKyNAWebSocketImpl::OnTextMessageReceived(const QString& message)
 {
-    const Reporting reporting(m_reporting);
-    textMessageReceivedSignal.Emit(message);
+    EmitInOrder([&] { textMessageReceivedSignal.Emit(message); });
 }

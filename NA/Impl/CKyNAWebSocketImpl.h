@@ -6,8 +6,6 @@
 #include <QtCore/QList>
 #include <QtCore/QMetaObject>
 
-#include <memory>
-
 class CKyNANetworkRequest;
 
 // Drives one toolkit web socket, connected from construction on: the
@@ -39,8 +37,5 @@ public:
     CKyUISignal<void(const QString&)> textMessageReceivedSignal;
 
 private:
-    // How many reports of the toolkit socket are under way. Shared with each
-    // report, which counts itself out even when its slot deleted us.
-    const std::shared_ptr<int> m_reporting = std::make_shared<int>(0);
     QList<QMetaObject::Connection> m_connections;
 };

@@ -10,7 +10,6 @@ CKyUIDialogButtonBoxImpl::CKyUIDialogButtonBoxImpl(CKyUIDialogButtonBox* owner, 
     , m_clicked(owner)
     , m_helpRequest(owner)
     , m_rejected(owner)
-    , m_lifetime(std::make_shared<CKyUIDialogButtonBoxImpl*>(this))
 {
     CreateButtonBoxImpl(dialog);
 }

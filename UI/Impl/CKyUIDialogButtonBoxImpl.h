@@ -5,8 +5,6 @@
 
 #include <QtCore/QMetaObject>
 
-#include <memory>
-
 class CKyUIDialog;
 class CKyUIDialogButtonBox;
 class CKyUIPushButton;
@@ -32,10 +30,6 @@ public:
     // Reports the Help wrapper for every button, deliberately.
     void OnClicked();
 
-    // Lets the connections made on the dialog's signals, which outlive a box
-    // deleted early, find out whether the box still exists.
-    std::weak_ptr<CKyUIDialogButtonBoxImpl*> Lifetime() const { return m_lifetime; }
-
 private:
     // Creates the toolkit box inside the dialog, joins the dialog's root
     // layout and wraps the three buttons, connecting the box's signals.
@@ -55,5 +49,4 @@ private:
     QMetaObject::Connection m_toolkitAccepted;
     QMetaObject::Connection m_toolkitRejected;
     QMetaObject::Connection m_toolkitClicked;
-    const std::shared_ptr<CKyUIDialogButtonBoxImpl*> m_lifetime;
 };

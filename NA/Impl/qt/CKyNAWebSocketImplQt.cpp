@@ -48,7 +48,7 @@ void CKyNAWebSocketImpl::DestroyWebSocketImpl()
     if (!socket)
         return;
     owner()->setHandle(nullptr);
-    if (*m_reporting == 0) {
+    if (!IsReporting()) {
         delete socket;
         return;
     }
