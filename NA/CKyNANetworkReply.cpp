@@ -31,7 +31,7 @@ bool CKyNANetworkReply::isRunning() const
 
 CKyNANetworkReply::NetworkError CKyNANetworkReply::error() const
 {
-    return implAs<CKyNANetworkReplyImpl>()->error();
+    return implAs<CKyNANetworkReplyImpl>()->errorCode();
 }
 
 QString CKyNANetworkReply::errorString() const
@@ -96,25 +96,25 @@ void CKyNANetworkReply::abort()
 
 CKyUISignal<void(long long, long long)>& CKyNANetworkReply::downloadProgress()
 {
-    return implAs<CKyNANetworkReplyImpl>()->downloadProgressSignal;
+    return implAs<CKyNANetworkReplyImpl>()->downloadProgress;
 }
 
 CKyUISignal<void(long long, long long)>& CKyNANetworkReply::uploadProgress()
 {
-    return implAs<CKyNANetworkReplyImpl>()->uploadProgressSignal;
+    return implAs<CKyNANetworkReplyImpl>()->uploadProgress;
 }
 
 CKyUISignal<void()>& CKyNANetworkReply::encrypted()
 {
-    return implAs<CKyNANetworkReplyImpl>()->encryptedSignal;
+    return implAs<CKyNANetworkReplyImpl>()->encrypted;
 }
 
 CKyUISignal<void(CKyNANetworkReply::NetworkError)>& CKyNANetworkReply::error()
 {
-    return implAs<CKyNANetworkReplyImpl>()->errorSignal;
+    return implAs<CKyNANetworkReplyImpl>()->error;
 }
 
 CKyUISignal<void()>& CKyNANetworkReply::finished()
 {
-    return implAs<CKyNANetworkReplyImpl>()->finishedSignal;
+    return implAs<CKyNANetworkReplyImpl>()->finished;
 }

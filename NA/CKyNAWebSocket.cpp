@@ -21,20 +21,20 @@ void CKyNAWebSocket::close(CKyNAWebSocketProtocol::CloseCode code, const QString
 
 CKyUISignal<void()>& CKyNAWebSocket::connected()
 {
-    return implAs<CKyNAWebSocketImpl>()->connectedSignal;
+    return implAs<CKyNAWebSocketImpl>()->connected;
 }
 
 CKyUISignal<void(int)>& CKyNAWebSocket::error()
 {
-    return implAs<CKyNAWebSocketImpl>()->errorSignal;
+    return implAs<CKyNAWebSocketImpl>()->error;
 }
 
 CKyUISignal<void()>& CKyNAWebSocket::disconnected()
 {
-    return implAs<CKyNAWebSocketImpl>()->disconnectedSignal;
+    return implAs<CKyNAWebSocketImpl>()->disconnected;
 }
 
 CKyUISignal<void(const QString&)>& CKyNAWebSocket::textMessageReceived()
 {
-    return implAs<CKyNAWebSocketImpl>()->textMessageReceivedSignal;
+    return implAs<CKyNAWebSocketImpl>()->textMessageReceived;
 }

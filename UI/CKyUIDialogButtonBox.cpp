@@ -24,8 +24,8 @@ CKyUIDialogButtonBox::CKyUIDialogButtonBox(CKyUIDialog* dialog)
         if (lifetime.Alive())
             impl->Button(Cancel)->clicked().Emit(true);
     });
-    impl->Button(Ok)->clicked().connect([impl](bool) { impl->Accepted().Emit(); });
-    impl->Button(Cancel)->clicked().connect([impl](bool) { impl->Rejected().Emit(); });
+    impl->Button(Ok)->clicked().connect([impl](bool) { impl->accepted.Emit(); });
+    impl->Button(Cancel)->clicked().connect([impl](bool) { impl->rejected.Emit(); });
 }
 
 CKyUIDialogButtonBox::~CKyUIDialogButtonBox() = default;
@@ -39,20 +39,20 @@ CKyUIPushButton* CKyUIDialogButtonBox::button(StandardButton which) const
 
 CKyUISignal<void()>& CKyUIDialogButtonBox::accepted()
 {
-    return implAs<CKyUIDialogButtonBoxImpl>()->Accepted();
+    return implAs<CKyUIDialogButtonBoxImpl>()->accepted;
 }
 
 CKyUISignal<void(CKyUIPushButton*)>& CKyUIDialogButtonBox::clicked()
 {
-    return implAs<CKyUIDialogButtonBoxImpl>()->Clicked();
+    return implAs<CKyUIDialogButtonBoxImpl>()->clicked;
 }
 
 CKyUISignal<void()>& CKyUIDialogButtonBox::helpRequest()
 {
-    return implAs<CKyUIDialogButtonBoxImpl>()->HelpRequest();
+    return implAs<CKyUIDialogButtonBoxImpl>()->helpRequest;
 }
 
 CKyUISignal<void()>& CKyUIDialogButtonBox::rejected()
 {
-    return implAs<CKyUIDialogButtonBoxImpl>()->Rejected();
+    return implAs<CKyUIDialogButtonBoxImpl>()->rejected;
 }

@@ -15,11 +15,11 @@ const CKyNANetworkReplyImpl::HeaderPairs g_emptyHeaderPairs;
 
 CKyNANetworkReplyImpl::CKyNANetworkReplyImpl(CKyNANetworkReply* owner, QObject* reply)
     : CKyUIObjectImpl(owner)
-    , downloadProgressSignal(owner)
-    , uploadProgressSignal(owner)
-    , encryptedSignal(owner)
-    , errorSignal(owner)
-    , finishedSignal(owner)
+    , downloadProgress(owner)
+    , uploadProgress(owner)
+    , encrypted(owner)
+    , error(owner)
+    , finished(owner)
     , m_headerPairs(g_emptyHeaderPairs)
 {
     owner->setHandle(reply);
@@ -42,7 +42,7 @@ void CKyNANetworkReplyImpl::setRequest(const CKyNANetworkRequest& request)
     SetRequestImpl(m_request);
 }
 
-CKyNANetworkReply::NetworkError CKyNANetworkReplyImpl::error() const
+CKyNANetworkReply::NetworkError CKyNANetworkReplyImpl::errorCode() const
 {
     return ErrorImpl();
 }
@@ -115,24 +115,24 @@ void CKyNANetworkReplyImpl::abort()
 
 void CKyNANetworkReplyImpl::OnDownloadProgress(long long received, long long total)
 {
-    downloadProgressSignal.Emit(received, total);
+    downloadProgress.Emit(received, total);
 }
 
 void CKyNANetworkReplyImpl::OnUploadProgress(long long sent, long long total)
 {
-    uploadProgressSignal.Emit(sent, total);
+    uploadProgress.Emit(sent, total);
 }
 
 void CKyNANetworkReplyImpl::OnEncrypted()
 {
-    encryptedSignal.Emit();
+    encrypted.Emit();
 }
 
 void CKyNANetworkReplyImpl::OnError(CKyNANetworkReply::NetworkError code, QIODevice* device)
 {
     // The body becomes readable now; the reply is not finished yet.
     m_device = device;
-    errorSignal.Emit(code);
+    error.Emit(code);
 }
 
 void CKyNANetworkReplyImpl::OnFinished(int status, const HeaderPairs& pairs, QIODevice* device)
@@ -147,5 +147,5 @@ void CKyNANetworkReplyImpl::OnFinished(int status, const HeaderPairs& pairs, QIO
             m_headerNames.append(pair.first);
     }
     m_httpStatusCode = status;
-    finishedSignal.Emit();
+    finished.Emit();
 }

@@ -3,10 +3,10 @@
 CKyNAWebSocketImpl::CKyNAWebSocketImpl(CKyNAWebSocket* owner, const QString& origin,
                                        CKyNAWebSocketProtocol::Version version)
     : CKyUIObjectImpl(owner)
-    , connectedSignal(owner)
-    , errorSignal(owner)
-    , disconnectedSignal(owner)
-    , textMessageReceivedSignal(owner)
+    , connected(owner)
+    , error(owner)
+    , disconnected(owner)
+    , textMessageReceived(owner)
 {
     CreateWebSocketImpl(origin, version);
 }
@@ -30,20 +30,20 @@ void CKyNAWebSocketImpl::close(CKyNAWebSocketProtocol::CloseCode code, const QSt
 
 void CKyNAWebSocketImpl::OnConnected()
 {
-    EmitInOrder([this] { connectedSignal.Emit(); });
+    EmitInOrder([this] { connected.Emit(); });
 }
 
-void CKyNAWebSocketImpl::OnError(int error)
+void CKyNAWebSocketImpl::OnError(int code)
 {
-    EmitInOrder([&] { errorSignal.Emit(error); });
+    EmitInOrder([&] { error.Emit(code); });
 }
 
 void CKyNAWebSocketImpl::OnDisconnected()
 {
-    EmitInOrder([this] { disconnectedSignal.Emit(); });
+    EmitInOrder([this] { disconnected.Emit(); });
 }
 
 void CKyNAWebSocketImpl::OnTextMessageReceived(const QString& message)
 {
-    EmitInOrder([&] { textMessageReceivedSignal.Emit(message); });
+    EmitInOrder([&] { textMessageReceived.Emit(message); });
 }

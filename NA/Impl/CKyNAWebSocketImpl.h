@@ -27,14 +27,14 @@ public:
 
     // Reactions to the toolkit socket.
     void OnConnected();
-    void OnError(int error);
+    void OnError(int code);
     void OnDisconnected();
     void OnTextMessageReceived(const QString& message);
 
-    CKyUISignal<void()> connectedSignal;
-    CKyUISignal<void(int)> errorSignal;
-    CKyUISignal<void()> disconnectedSignal;
-    CKyUISignal<void(const QString&)> textMessageReceivedSignal;
+    CKyUISignal<void()> connected;
+    CKyUISignal<void(int)> error;
+    CKyUISignal<void()> disconnected;
+    CKyUISignal<void(const QString&)> textMessageReceived;
 
 private:
     QList<QMetaObject::Connection> m_connections;

@@ -20,11 +20,6 @@ public:
 
     CKyUIPushButton* Button(int which) const;
 
-    CKyUISignal<void()>& Accepted() { return m_accepted; }
-    CKyUISignal<void(CKyUIPushButton*)>& Clicked() { return m_clicked; }
-    CKyUISignal<void()>& HelpRequest() { return m_helpRequest; }
-    CKyUISignal<void()>& Rejected() { return m_rejected; }
-
     // 1 reports acceptance, anything else rejection.
     void OnResult(int code);
     // Reports the Help wrapper for every button, deliberately.
@@ -42,10 +37,14 @@ private:
     CKyUIPushButton* m_okButton = nullptr;     // owned
     CKyUIPushButton* m_cancelButton = nullptr; // owned
     CKyUIPushButton* m_helpButton = nullptr;   // owned
-    CKyUISignal<void()> m_accepted;
-    CKyUISignal<void(CKyUIPushButton*)> m_clicked;
-    CKyUISignal<void()> m_helpRequest;
-    CKyUISignal<void()> m_rejected;
+
+public:
+    CKyUISignal<void()> accepted;
+    CKyUISignal<void(CKyUIPushButton*)> clicked;
+    CKyUISignal<void()> helpRequest;
+    CKyUISignal<void()> rejected;
+
+private:
     QMetaObject::Connection m_toolkitAccepted;
     QMetaObject::Connection m_toolkitRejected;
     QMetaObject::Connection m_toolkitClicked;

@@ -34,7 +34,7 @@ void CKyNAWebSocketImpl::CreateWebSocketImpl(const QString& origin, CKyNAWebSock
         socket, &QWebSocket::connected, socket, [this] { OnConnected(); }, Qt::DirectConnection);
     m_connections << QObject::connect(
         socket, QOverload<QAbstractSocket::SocketError>::of(&QWebSocket::error), socket,
-        [this](QAbstractSocket::SocketError error) { OnError(int(error)); }, Qt::DirectConnection);
+        [this](QAbstractSocket::SocketError code) { OnError(int(code)); }, Qt::DirectConnection);
     m_connections << QObject::connect(
         socket, &QWebSocket::disconnected, socket, [this] { OnDisconnected(); }, Qt::DirectConnection);
     m_connections << QObject::connect(
