@@ -1,7 +1,7 @@
 #include "UI/CKyUIBaseView.h"
 
 #include "UI/Impl/CKyUIBaseViewImpl.h"
-#include "UI/Impl/KyBaseViewImpl.h"
+#include "UI/Impl/qt/KyBaseViewImpl.h"
 
 #include <utility>
 
