@@ -60,8 +60,8 @@ public:
         return ((std::forward<Emissions>(emissions)(), lifetime.Alive()) && ...);
     }
 
-    // True while EmitInOrder runs on this object, i.e. when it is being
-    // destroyed from one of the slots it called.
+    // True while EmitInOrder runs on this object. Asked by a destructor, it
+    // tells that one of the slots called is what deletes the object.
     bool IsReporting() const { return m_lifetime->reporting > 0; }
 
 private:
