@@ -6,7 +6,6 @@
 
 class QByteArray;
 class QIODevice;
-class CKyNANetworkAccessManagerImpl;
 class CKyNANetworkReply;
 class CKyNANetworkRequest;
 
@@ -25,7 +24,4 @@ public:
     CKyNANetworkReply* put(const CKyNANetworkRequest& request, QIODevice* data);
     CKyNANetworkReply* put(const CKyNANetworkRequest& request, const QByteArray& data);
     CKyNANetworkReply* deleteResource(const CKyNANetworkRequest& request);
-
-private:
-    CKyNANetworkAccessManagerImpl* d() const;
 };

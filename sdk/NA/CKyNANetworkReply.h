@@ -13,7 +13,6 @@
 #include <QtCore/QVariant>
 
 class QObject;
-class CKyNANetworkReplyImpl;
 
 // One transfer started by the network access manager. Signals come from the
 // toolkit's event loop; body and headers become readable with error() or
@@ -102,7 +101,4 @@ public:
     CKyUISignal<void()>& encrypted();
     CKyUISignal<void(CKyNANetworkReply::NetworkError)>& error();
     CKyUISignal<void()>& finished();
-
-private:
-    CKyNANetworkReplyImpl* d() const;
 };

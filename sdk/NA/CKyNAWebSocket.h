@@ -9,7 +9,6 @@
 #include <QtCore/QString>
 
 class CKyNANetworkRequest;
-class CKyNAWebSocketImpl;
 
 // A receive-only web socket: reports connection, disconnection, errors and
 // incoming text messages; binary messages are not reported and nothing is
@@ -31,7 +30,4 @@ public:
     CKyUISignal<void(int)>& error();
     CKyUISignal<void()>& disconnected();
     CKyUISignal<void(const QString&)>& textMessageReceived();
-
-private:
-    CKyNAWebSocketImpl* d() const;
 };
