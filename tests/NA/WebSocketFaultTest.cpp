@@ -76,12 +76,11 @@ TEST(WebSocketFault, DeletingTheSocketFromItsOwnSlotsReachesNothingFreed)
 
     for (const char* slot : {"textMessageReceived", "disconnected", "error"}) {
         SCOPED_TRACE(slot);
+        Recorder log;
         auto* socket = new CKyNAWebSocket(QString(), CKyNAWebSocketProtocol::VersionLatest);
         QPointer<QObject> toolkit = socket->getHandle();
-        bool connected = false;
         bool deleted = false;
-        int laterMessages = 0;
-        socket->connected().connect([&connected] { connected = true; });
+        log.on(socket->connected(), "connected");
         const auto deleteSocket = [socket, &deleted] {
             bool* const done = &deleted;
             delete socket;
@@ -89,14 +88,14 @@ TEST(WebSocketFault, DeletingTheSocketFromItsOwnSlotsReachesNothingFreed)
         };
         if (QByteArray(slot) == "textMessageReceived") {
             socket->textMessageReceived().connect([deleteSocket](const QString&) { deleteSocket(); });
-            socket->textMessageReceived().connect([&laterMessages](const QString&) { ++laterMessages; });
+            log.on(socket->textMessageReceived(), "text"); // after the deleting slot
         } else if (QByteArray(slot) == "disconnected") {
             socket->disconnected().connect(deleteSocket);
         } else {
             socket->error().connect([deleteSocket](int) { deleteSocket(); });
         }
         socket->open(CKyNANetworkRequest(server.url()));
-        ASSERT_TRUE(waitUntil([&] { return connected && server.peer(); }));
+        ASSERT_TRUE(waitUntil([&] { return log.has("connected") && server.peer(); }));
 
         // Several messages in one burst, so that the toolkit still has some to
         // hand out after the first.
@@ -105,7 +104,7 @@ TEST(WebSocketFault, DeletingTheSocketFromItsOwnSlotsReachesNothingFreed)
         if (QByteArray(slot) != "textMessageReceived")
             server.abort();
         ASSERT_TRUE(waitUntil([&] { return deleted; }));
-        EXPECT_EQ(laterMessages, 0);
+        EXPECT_EQ(log.count("text"), 0);
         // Whatever the toolkit socket still had to do, it does without us.
         ASSERT_TRUE(waitUntil([&] {
             QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

@@ -4,6 +4,7 @@
 #include "UI/CKyUISlider.h"
 #include "UI/CKyUITextEdit.h"
 #include "UI/CKyUITextView.h"
+#include "support/Recorder.h"
 
 #include <gtest/gtest.h>
 
@@ -41,7 +42,7 @@ template <class Control> struct DeletedInSlot
     Control* control = NewControl<Control>();
     QPointer<QWidget> widget{qobject_cast<QWidget*>(control->getHandle())};
     bool deleted = false;
-    int afterwards = 0;
+    Recorder afterwards;
 
     // The slot's own captures go with the control: it copies what it needs.
     std::function<void()> DeleteNow()
@@ -57,13 +58,13 @@ template <class Control> struct DeletedInSlot
     {
         return [this] {
             if (deleted)
-                ++afterwards;
+                afterwards.add("reported");
         };
     }
     void Finish()
     {
         EXPECT_TRUE(deleted);
-        EXPECT_EQ(afterwards, 0);
+        EXPECT_TRUE(afterwards.lines.isEmpty());
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         EXPECT_TRUE(widget.isNull());
     }
