@@ -50,43 +50,43 @@ public:
     enum NetworkError : int {
         NoError = 0, ///< No error.
 
-        ConnectionRefusedError = 1, ///< The server refused the connection.
-        RemoteHostClosedError = 2, ///< The server closed the connection early.
-        HostNotFoundError = 3, ///< The host name was not found.
-        TimeoutError = 4, ///< The toolkit's own time-out of the connection.
-        OperationCanceledError = 5, ///< Aborted, by abort() or by the request's time-out.
-        SslHandshakeFailedError = 6, ///< The TLS handshake failed.
-        TemporaryNetworkFailureError = 7, ///< The network was lost for a while.
-        NetworkSessionFailedError = 8, ///< The network session failed.
+        ConnectionRefusedError = 1,           ///< The server refused the connection.
+        RemoteHostClosedError = 2,            ///< The server closed the connection early.
+        HostNotFoundError = 3,                ///< The host name was not found.
+        TimeoutError = 4,                     ///< The toolkit's own time-out of the connection.
+        OperationCanceledError = 5,           ///< Aborted, by abort() or by the request's time-out.
+        SslHandshakeFailedError = 6,          ///< The TLS handshake failed.
+        TemporaryNetworkFailureError = 7,     ///< The network was lost for a while.
+        NetworkSessionFailedError = 8,        ///< The network session failed.
         BackgroundRequestNotAllowedError = 9, ///< Background requests are not allowed.
-        TooManyRedirectsError = 10, ///< Too many redirects.
-        InsecureRedirectError = 11, ///< A redirect from a secure to an insecure URL.
-        UnknownNetworkError = 99, ///< Another network error.
+        TooManyRedirectsError = 10,           ///< Too many redirects.
+        InsecureRedirectError = 11,           ///< A redirect from a secure to an insecure URL.
+        UnknownNetworkError = 99,             ///< Another network error.
 
-        ProxyConnectionRefusedError = 101, ///< The proxy refused the connection.
-        ProxyConnectionClosedError = 102, ///< The proxy closed the connection early.
-        ProxyNotFoundError = 103, ///< The proxy host was not found.
-        ProxyTimeoutError = 104, ///< The proxy timed out.
+        ProxyConnectionRefusedError = 101,      ///< The proxy refused the connection.
+        ProxyConnectionClosedError = 102,       ///< The proxy closed the connection early.
+        ProxyNotFoundError = 103,               ///< The proxy host was not found.
+        ProxyTimeoutError = 104,                ///< The proxy timed out.
         ProxyAuthenticationRequiredError = 105, ///< The proxy requires authentication.
-        UnknownProxyError = 199, ///< Another proxy error.
+        UnknownProxyError = 199,                ///< Another proxy error.
 
-        ContentAccessDenied = 201, ///< Access denied (HTTP 403).
+        ContentAccessDenied = 201,               ///< Access denied (HTTP 403).
         ContentOperationNotPermittedError = 202, ///< The operation is not permitted (HTTP 405).
-        ContentNotFoundError = 203, ///< Not found (HTTP 404).
-        AuthenticationRequiredError = 204, ///< Authentication required (HTTP 401).
-        ContentReSendError = 205, ///< The request had to be sent again and could not be.
-        ContentConflictError = 206, ///< Conflict (HTTP 409).
-        ContentGoneError = 207, ///< Gone (HTTP 410).
-        UnknownContentError = 299, ///< Another content error (other HTTP 4xx).
+        ContentNotFoundError = 203,              ///< Not found (HTTP 404).
+        AuthenticationRequiredError = 204,       ///< Authentication required (HTTP 401).
+        ContentReSendError = 205,                ///< The request had to be sent again and could not be.
+        ContentConflictError = 206,              ///< Conflict (HTTP 409).
+        ContentGoneError = 207,                  ///< Gone (HTTP 410).
+        UnknownContentError = 299,               ///< Another content error (other HTTP 4xx).
 
-        ProtocolUnknownError = 301, ///< The protocol is not known.
+        ProtocolUnknownError = 301,          ///< The protocol is not known.
         ProtocolInvalidOperationError = 302, ///< The operation is invalid for this protocol.
-        ProtocolFailure = 399, ///< A breakdown of the protocol.
+        ProtocolFailure = 399,               ///< A breakdown of the protocol.
 
-        InternalServerError = 401, ///< Internal server error (HTTP 500).
+        InternalServerError = 401,          ///< Internal server error (HTTP 500).
         OperationNotImplementedError = 402, ///< Not implemented (HTTP 501).
-        ServiceUnavailableError = 403, ///< Service unavailable (HTTP 503).
-        UnknownServerError = 499 ///< Another server error (other HTTP 5xx).
+        ServiceUnavailableError = 403,      ///< Service unavailable (HTTP 503).
+        UnknownServerError = 499            ///< Another server error (other HTTP 5xx).
     };
 
     /// Wraps a toolkit reply; anything else is kept as the handle but never signals.

@@ -34,48 +34,48 @@ class COMMONUI_EXPORT CKyNANetworkRequest
 public:
     /// Headers with a known name; the toolkit's values, handed on unchanged.
     enum KnownHeaders : int {
-        ContentTypeHeader = 0, ///< "Content-Type".
-        ContentLengthHeader = 1, ///< "Content-Length".
-        LocationHeader = 2, ///< "Location".
-        LastModifiedHeader = 3, ///< "Last-Modified".
-        CookieHeader = 4, ///< "Cookie".
-        SetCookieHeader = 5, ///< "Set-Cookie".
+        ContentTypeHeader = 0,        ///< "Content-Type".
+        ContentLengthHeader = 1,      ///< "Content-Length".
+        LocationHeader = 2,           ///< "Location".
+        LastModifiedHeader = 3,       ///< "Last-Modified".
+        CookieHeader = 4,             ///< "Cookie".
+        SetCookieHeader = 5,          ///< "Set-Cookie".
         ContentDispositionHeader = 6, ///< "Content-Disposition".
-        UserAgentHeader = 7, ///< "User-Agent".
-        ServerHeader = 8 ///< "Server".
+        UserAgentHeader = 7,          ///< "User-Agent".
+        ServerHeader = 8              ///< "Server".
     };
 
     /// Attributes a reply answers through CKyNANetworkReply::attribute(); the
     /// toolkit's values, handed on unchanged.
     enum Attribute : int {
-        HttpStatusCodeAttribute = 0, ///< The HTTP status code, an int.
-        HttpReasonPhraseAttribute = 1, ///< The HTTP reason phrase.
-        RedirectionTargetAttribute = 2, ///< The redirection target, a QUrl.
-        ConnectionEncryptedAttribute = 3, ///< Whether the connection was encrypted.
-        CacheLoadControlAttribute = 4, ///< Cache load control.
-        CacheSaveControlAttribute = 5, ///< Cache save control.
-        SourceIsFromCacheAttribute = 6, ///< Whether the data came from the cache.
-        DoNotBufferUploadDataAttribute = 7, ///< Upload data is not buffered.
-        HttpPipeliningAllowedAttribute = 8, ///< HTTP pipelining allowed.
-        HttpPipeliningWasUsedAttribute = 9, ///< HTTP pipelining was used.
-        CustomVerbAttribute = 10, ///< A custom HTTP verb.
-        CookieLoadControlAttribute = 11, ///< Cookie load control.
-        AuthenticationReuseAttribute = 12, ///< Authentication reuse.
-        CookieSaveControlAttribute = 13, ///< Cookie save control.
-        MaximumDownloadBufferSizeAttribute = 14, ///< Maximum download buffer size.
-        DownloadBufferAttribute = 15, ///< The download buffer.
-        SynchronousRequestAttribute = 16, ///< A synchronous request.
-        BackgroundRequestAttribute = 17, ///< A background request.
-        SpdyAllowedAttribute = 18, ///< SPDY allowed.
-        SpdyWasUsedAttribute = 19, ///< SPDY was used.
+        HttpStatusCodeAttribute = 0,                ///< The HTTP status code, an int.
+        HttpReasonPhraseAttribute = 1,              ///< The HTTP reason phrase.
+        RedirectionTargetAttribute = 2,             ///< The redirection target, a QUrl.
+        ConnectionEncryptedAttribute = 3,           ///< Whether the connection was encrypted.
+        CacheLoadControlAttribute = 4,              ///< Cache load control.
+        CacheSaveControlAttribute = 5,              ///< Cache save control.
+        SourceIsFromCacheAttribute = 6,             ///< Whether the data came from the cache.
+        DoNotBufferUploadDataAttribute = 7,         ///< Upload data is not buffered.
+        HttpPipeliningAllowedAttribute = 8,         ///< HTTP pipelining allowed.
+        HttpPipeliningWasUsedAttribute = 9,         ///< HTTP pipelining was used.
+        CustomVerbAttribute = 10,                   ///< A custom HTTP verb.
+        CookieLoadControlAttribute = 11,            ///< Cookie load control.
+        AuthenticationReuseAttribute = 12,          ///< Authentication reuse.
+        CookieSaveControlAttribute = 13,            ///< Cookie save control.
+        MaximumDownloadBufferSizeAttribute = 14,    ///< Maximum download buffer size.
+        DownloadBufferAttribute = 15,               ///< The download buffer.
+        SynchronousRequestAttribute = 16,           ///< A synchronous request.
+        BackgroundRequestAttribute = 17,            ///< A background request.
+        SpdyAllowedAttribute = 18,                  ///< SPDY allowed.
+        SpdyWasUsedAttribute = 19,                  ///< SPDY was used.
         EmitAllUploadProgressSignalsAttribute = 20, ///< Every upload progress is reported.
-        FollowRedirectsAttribute = 21, ///< Redirects are followed.
-        HTTP2AllowedAttribute = 22, ///< HTTP/2 allowed.
-        HTTP2WasUsedAttribute = 23, ///< HTTP/2 was used.
-        OriginalContentLengthAttribute = 24, ///< The original content length.
-        RedirectPolicyAttribute = 25, ///< The redirect policy.
-        User = 1000, ///< First value for the application's own attributes.
-        UserMax = 32767 ///< Last value for the application's own attributes.
+        FollowRedirectsAttribute = 21,              ///< Redirects are followed.
+        HTTP2AllowedAttribute = 22,                 ///< HTTP/2 allowed.
+        HTTP2WasUsedAttribute = 23,                 ///< HTTP/2 was used.
+        OriginalContentLengthAttribute = 24,        ///< The original content length.
+        RedirectPolicyAttribute = 25,               ///< The redirect policy.
+        User = 1000,                                ///< First value for the application's own attributes.
+        UserMax = 32767                             ///< Last value for the application's own attributes.
     };
 
     /// A request for @p url, without headers and with time-out 0. The URL

@@ -20,13 +20,13 @@ class COMMONUI_EXPORT CKyUIEvent
 public:
     /// The kind of event, with the toolkit's numbers.
     enum Type : std::uint16_t {
-        None = 0,      ///< No event.
-        FocusIn = 8,   ///< Reported by every CKyUIFocusEvent.
-        FocusOut = 9,  ///< Never reported: a focus event always says FocusIn.
-        Paint = 12,    ///< A CKyUIPaintEvent.
-        Resize = 14,   ///< A CKyUIResizeEvent.
-        Show = 17,     ///< A CKyUIShowEvent.
-        Hide = 18,     ///< A CKyUIHideEvent.
+        None = 0,     ///< No event.
+        FocusIn = 8,  ///< Reported by every CKyUIFocusEvent.
+        FocusOut = 9, ///< Never reported: a focus event always says FocusIn.
+        Paint = 12,   ///< A CKyUIPaintEvent.
+        Resize = 14,  ///< A CKyUIResizeEvent.
+        Show = 17,    ///< A CKyUIShowEvent.
+        Hide = 18,    ///< A CKyUIHideEvent.
     };
 
     /// An event of the given type.
