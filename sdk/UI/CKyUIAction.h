@@ -17,6 +17,8 @@ class COMMONUI_EXPORT CKyUIAction : public CKyUIObject
 public:
     /// An action without text, created with its toolkit action.
     CKyUIAction();
+    /// The toolkit action is no widget and is not released with the action:
+    /// it stays behind, and so does its entry in a menu it was added to.
     ~CKyUIAction() override;
 
     /// Stores the text and shows it in menus.
