@@ -9,37 +9,32 @@ CKyNANetworkAccessManager::CKyNANetworkAccessManager()
 
 CKyNANetworkAccessManager::~CKyNANetworkAccessManager() = default;
 
-CKyNANetworkAccessManagerImpl* CKyNANetworkAccessManager::d() const
-{
-    return static_cast<CKyNANetworkAccessManagerImpl*>(impl());
-}
-
 CKyNANetworkReply* CKyNANetworkAccessManager::get(const CKyNANetworkRequest& request)
 {
-    return d()->get(request);
+    return implAs<CKyNANetworkAccessManagerImpl>()->get(request);
 }
 
 CKyNANetworkReply* CKyNANetworkAccessManager::post(const CKyNANetworkRequest& request, QIODevice* data)
 {
-    return d()->post(request, data);
+    return implAs<CKyNANetworkAccessManagerImpl>()->post(request, data);
 }
 
 CKyNANetworkReply* CKyNANetworkAccessManager::post(const CKyNANetworkRequest& request, const QByteArray& data)
 {
-    return d()->post(request, data);
+    return implAs<CKyNANetworkAccessManagerImpl>()->post(request, data);
 }
 
 CKyNANetworkReply* CKyNANetworkAccessManager::put(const CKyNANetworkRequest& request, QIODevice* data)
 {
-    return d()->put(request, data);
+    return implAs<CKyNANetworkAccessManagerImpl>()->put(request, data);
 }
 
 CKyNANetworkReply* CKyNANetworkAccessManager::put(const CKyNANetworkRequest& request, const QByteArray& data)
 {
-    return d()->put(request, data);
+    return implAs<CKyNANetworkAccessManagerImpl>()->put(request, data);
 }
 
 CKyNANetworkReply* CKyNANetworkAccessManager::deleteResource(const CKyNANetworkRequest& request)
 {
-    return d()->deleteResource(request);
+    return implAs<CKyNANetworkAccessManagerImpl>()->deleteResource(request);
 }

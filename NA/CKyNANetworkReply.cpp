@@ -9,117 +9,112 @@ CKyNANetworkReply::CKyNANetworkReply(QObject* reply)
 
 CKyNANetworkReply::~CKyNANetworkReply() = default;
 
-CKyNANetworkReplyImpl* CKyNANetworkReply::d() const
-{
-    return static_cast<CKyNANetworkReplyImpl*>(impl());
-}
-
 void CKyNANetworkReply::setRequest(const CKyNANetworkRequest& request)
 {
-    d()->setRequest(request);
+    implAs<CKyNANetworkReplyImpl>()->setRequest(request);
 }
 
 const CKyNANetworkRequest* CKyNANetworkReply::request() const
 {
-    return d()->request();
+    return implAs<CKyNANetworkReplyImpl>()->request();
 }
 
 bool CKyNANetworkReply::isFinished() const
 {
-    return d()->isFinished();
+    return implAs<CKyNANetworkReplyImpl>()->isFinished();
 }
 
 bool CKyNANetworkReply::isRunning() const
 {
-    return d()->isRunning();
+    return implAs<CKyNANetworkReplyImpl>()->isRunning();
 }
 
 CKyNANetworkReply::NetworkError CKyNANetworkReply::error() const
 {
-    return d()->error();
+    return implAs<CKyNANetworkReplyImpl>()->errorCode();
 }
 
 QString CKyNANetworkReply::errorString() const
 {
-    return d()->errorString();
+    return implAs<CKyNANetworkReplyImpl>()->errorString();
 }
 
 long long CKyNANetworkReply::bytesAvailable() const
 {
-    return d()->bytesAvailable();
+    return implAs<CKyNANetworkReplyImpl>()->bytesAvailable();
 }
 
 QByteArray CKyNANetworkReply::readAll()
 {
-    return d()->readAll();
+    return implAs<CKyNANetworkReplyImpl>()->readAll();
 }
 
 long long CKyNANetworkReply::pos() const
 {
-    return d()->pos();
+    return implAs<CKyNANetworkReplyImpl>()->pos();
 }
 
 bool CKyNANetworkReply::seek(long long pos)
 {
-    return d()->seek(pos);
+    return implAs<CKyNANetworkReplyImpl>()->seek(pos);
 }
 
 QVariant CKyNANetworkReply::attribute(CKyNANetworkRequest::Attribute code) const
 {
-    return d()->attribute(code);
+    return implAs<CKyNANetworkReplyImpl>()->attribute(code);
 }
 
 QVariant CKyNANetworkReply::header(CKyNANetworkRequest::KnownHeaders header) const
 {
-    return d()->header(header);
+    return implAs<CKyNANetworkReplyImpl>()->header(header);
 }
 
 bool CKyNANetworkReply::hasRawHeader(const QByteArray& name) const
 {
-    return d()->hasRawHeader(name);
+    return implAs<CKyNANetworkReplyImpl>()->hasRawHeader(name);
 }
 
 QByteArray CKyNANetworkReply::rawHeader(const QByteArray& name) const
 {
-    return d()->rawHeader(name);
+    return implAs<CKyNANetworkReplyImpl>()->rawHeader(name);
 }
 
 QList<QByteArray> CKyNANetworkReply::rawHeaderList() const
 {
-    return d()->rawHeaderList();
+    return implAs<CKyNANetworkReplyImpl>()->rawHeaderList();
 }
 
 const QList<QPair<QByteArray, QByteArray>>& CKyNANetworkReply::rawHeaderPairs() const
 {
-    return d()->rawHeaderPairs();
+    return implAs<CKyNANetworkReplyImpl>()->rawHeaderPairs();
 }
 
 void CKyNANetworkReply::abort()
 {
-    d()->abort();
+    implAs<CKyNANetworkReplyImpl>()->abort();
 }
 
 CKyUISignal<void(long long, long long)>& CKyNANetworkReply::downloadProgress()
 {
-    return d()->downloadProgressSignal;
+    return implAs<CKyNANetworkReplyImpl>()->downloadProgress;
 }
 
 CKyUISignal<void(long long, long long)>& CKyNANetworkReply::uploadProgress()
 {
-    return d()->uploadProgressSignal;
+    return implAs<CKyNANetworkReplyImpl>()->uploadProgress;
 }
 
 CKyUISignal<void()>& CKyNANetworkReply::encrypted()
 {
-    return d()->encryptedSignal;
+    return implAs<CKyNANetworkReplyImpl>()->encrypted;
 }
 
 CKyUISignal<void(CKyNANetworkReply::NetworkError)>& CKyNANetworkReply::error()
 {
-    return d()->errorSignal;
+    return implAs<CKyNANetworkReplyImpl>()->error;
 }
 
 CKyUISignal<void()>& CKyNANetworkReply::finished()
 {
-    return d()->finishedSignal;
+    return implAs<CKyNANetworkReplyImpl>()->finished;
 }

@@ -9,37 +9,32 @@ CKyNAWebSocket::CKyNAWebSocket(const QString& origin, CKyNAWebSocketProtocol::Ve
 
 CKyNAWebSocket::~CKyNAWebSocket() = default;
 
-CKyNAWebSocketImpl* CKyNAWebSocket::d() const
-{
-    return static_cast<CKyNAWebSocketImpl*>(impl());
-}
-
 void CKyNAWebSocket::open(const CKyNANetworkRequest& request)
 {
-    d()->open(request);
+    implAs<CKyNAWebSocketImpl>()->open(request);
 }
 
 void CKyNAWebSocket::close(CKyNAWebSocketProtocol::CloseCode code, const QString& reason)
 {
-    d()->close(code, reason);
+    implAs<CKyNAWebSocketImpl>()->close(code, reason);
 }
 
 CKyUISignal<void()>& CKyNAWebSocket::connected()
 {
-    return d()->connectedSignal;
+    return implAs<CKyNAWebSocketImpl>()->connected;
 }
 
 CKyUISignal<void(int)>& CKyNAWebSocket::error()
 {
-    return d()->errorSignal;
+    return implAs<CKyNAWebSocketImpl>()->error;
 }
 
 CKyUISignal<void()>& CKyNAWebSocket::disconnected()
 {
-    return d()->disconnectedSignal;
+    return implAs<CKyNAWebSocketImpl>()->disconnected;
 }
 
 CKyUISignal<void(const QString&)>& CKyNAWebSocket::textMessageReceived()
 {
-    return d()->textMessageReceivedSignal;
+    return implAs<CKyNAWebSocketImpl>()->textMessageReceived;
 }

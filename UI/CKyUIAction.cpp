@@ -1,7 +1,7 @@
 #include "UI/CKyUIAction.h"
 
 #include "UI/Impl/CKyUIActionImpl.h"
-#include "UI/Impl/KyBaseViewImpl.h"
+#include "UI/Impl/qt/KyBaseViewImpl.h"
 
 CKyUIAction::CKyUIAction()
 {

@@ -1,15 +1,34 @@
 #include "UI/CKyUIBaseView.h"
 
 #include "UI/Impl/CKyUIBaseViewImpl.h"
-#include "UI/Impl/KyBaseViewImpl.h"
+#include "UI/Impl/qt/KyBaseViewImpl.h"
+
+#include <utility>
 
 namespace
 {
+
 const QPalette& EmptyPalette()
 {
     static const QPalette palette;
     return palette;
 }
+
+// A view that merely wraps a toolkit widget has no implementation: its
+// operations do nothing and its getters answer a fallback.
+template <typename Op, typename... Args>
+void Forward(CKyUIBaseViewImpl* impl, Op op, Args&&... args)
+{
+    if (impl)
+        (impl->*op)(std::forward<Args>(args)...);
+}
+
+template <typename Op, typename Fallback>
+auto Ask(const CKyUIBaseViewImpl* impl, Op op, Fallback&& fallback) -> decltype((impl->*op)())
+{
+    return impl ? (impl->*op)() : fallback;
+}
+
 } // namespace
 
 CKyUIBaseView::CKyUIBaseView() = default;
@@ -32,8 +51,7 @@ void CKyUIBaseView::addView(CKyUIBaseView* view, float stretch)
     // Lets a view that merely wraps a toolkit widget take children.
     if (!impl() && getHandle())
         setImpl(new CKyUIBaseViewImpl(this));
-    if (impl())
-        implAs<CKyUIBaseViewImpl>()->AddViewImpl(view, stretch);
+    Forward(implAs<CKyUIBaseViewImpl>(), &CKyUIBaseViewImpl::AddViewImpl, view, stretch);
 }
 
 void CKyUIBaseView::insertView(CKyUIBaseView* view, int index, float stretch)
@@ -45,8 +63,7 @@ void CKyUIBaseView::insertView(CKyUIBaseView* view, int index, float stretch)
         return;
     if (!impl() && getHandle())
         setImpl(new CKyUIBaseViewImpl(this));
-    if (impl())
-        implAs<CKyUIBaseViewImpl>()->InsertViewImpl(view, index, stretch);
+    Forward(implAs<CKyUIBaseViewImpl>(), &CKyUIBaseViewImpl::InsertViewImpl, view, index, stretch);
 }
 
 void CKyUIBaseView::removeView(CKyUIBaseView* view)
@@ -54,42 +71,37 @@ void CKyUIBaseView::removeView(CKyUIBaseView* view)
     if (!view || view->parent() != this)
         return;
     view->setParent(nullptr);
-    if (impl())
-        implAs<CKyUIBaseViewImpl>()->RemoveViewImpl(view);
+    Forward(implAs<CKyUIBaseViewImpl>(), &CKyUIBaseViewImpl::RemoveViewImpl, view);
 }
 
 void CKyUIBaseView::setEnabled(bool enabled)
 {
-    if (impl())
-        implAs<CKyUIBaseViewImpl>()->SetEnabled(enabled);
+    Forward(implAs<CKyUIBaseViewImpl>(), &CKyUIBaseViewImpl::SetEnabled, enabled);
 }
 
 void CKyUIBaseView::setDisabled(bool disabled)
 {
-    if (impl())
-        implAs<CKyUIBaseViewImpl>()->SetEnabled(!disabled);
+    Forward(implAs<CKyUIBaseViewImpl>(), &CKyUIBaseViewImpl::SetEnabled, !disabled);
 }
 
 bool CKyUIBaseView::isEnabled() const
 {
-    return impl() ? implAs<CKyUIBaseViewImpl>()->IsEnabled() : false;
+    return Ask(implAs<CKyUIBaseViewImpl>(), &CKyUIBaseViewImpl::IsEnabled, false);
 }
 
 void CKyUIBaseView::setVisible(bool visible)
 {
-    if (impl())
-        implAs<CKyUIBaseViewImpl>()->SetVisible(visible);
+    Forward(implAs<CKyUIBaseViewImpl>(), &CKyUIBaseViewImpl::SetVisible, visible);
 }
 
 bool CKyUIBaseView::isVisible() const
 {
-    return impl() ? implAs<CKyUIBaseViewImpl>()->IsVisible() : false;
+    return Ask(implAs<CKyUIBaseViewImpl>(), &CKyUIBaseViewImpl::IsVisible, false);
 }
 
 void CKyUIBaseView::setFocus()
 {
-    if (impl())
-        implAs<CKyUIBaseViewImpl>()->SetFocusImpl();
+    Forward(implAs<CKyUIBaseViewImpl>(), &CKyUIBaseViewImpl::SetFocusImpl);
 }
 
 void CKyUIBaseView::setFocus(int)
@@ -98,96 +110,83 @@ void CKyUIBaseView::setFocus(int)
 
 bool CKyUIBaseView::hasFocus() const
 {
-    return impl() ? implAs<CKyUIBaseViewImpl>()->HasFocus() : false;
+    return Ask(implAs<CKyUIBaseViewImpl>(), &CKyUIBaseViewImpl::HasFocus, false);
 }
 
 void CKyUIBaseView::setFocusPolicy(int policy)
 {
-    if (impl())
-        implAs<CKyUIBaseViewImpl>()->SetFocusPolicyImpl(policy);
+    Forward(implAs<CKyUIBaseViewImpl>(), &CKyUIBaseViewImpl::SetFocusPolicyImpl, policy);
 }
 
 void CKyUIBaseView::setTabOrder(CKyUIObject* first, CKyUIObject* second)
 {
-    if (impl())
-        implAs<CKyUIBaseViewImpl>()->SetTabOrderImpl(first, second);
+    Forward(implAs<CKyUIBaseViewImpl>(), &CKyUIBaseViewImpl::SetTabOrderImpl, first, second);
 }
 
 int CKyUIBaseView::width() const
 {
-    return impl() ? implAs<CKyUIBaseViewImpl>()->Width() : -1;
+    return Ask(implAs<CKyUIBaseViewImpl>(), &CKyUIBaseViewImpl::Width, -1);
 }
 
 int CKyUIBaseView::height() const
 {
-    return impl() ? implAs<CKyUIBaseViewImpl>()->Height() : -1;
+    return Ask(implAs<CKyUIBaseViewImpl>(), &CKyUIBaseViewImpl::Height, -1);
 }
 
 void CKyUIBaseView::setWidth(int width)
 {
-    if (impl())
-        implAs<CKyUIBaseViewImpl>()->SetWidth(width);
+    Forward(implAs<CKyUIBaseViewImpl>(), &CKyUIBaseViewImpl::SetWidth, width);
 }
 
 void CKyUIBaseView::setHeight(int height)
 {
-    if (impl())
-        implAs<CKyUIBaseViewImpl>()->SetHeight(height);
+    Forward(implAs<CKyUIBaseViewImpl>(), &CKyUIBaseViewImpl::SetHeight, height);
 }
 
 void CKyUIBaseView::resize(int width, int height)
 {
-    if (!impl())
-        return;
-    implAs<CKyUIBaseViewImpl>()->SetWidth(width);
-    implAs<CKyUIBaseViewImpl>()->SetHeight(height);
+    Forward(implAs<CKyUIBaseViewImpl>(), &CKyUIBaseViewImpl::SetWidth, width);
+    Forward(implAs<CKyUIBaseViewImpl>(), &CKyUIBaseViewImpl::SetHeight, height);
 }
 
 void CKyUIBaseView::setPreferableSize(int width, int height)
 {
-    if (impl())
-        implAs<CKyUIBaseViewImpl>()->SetPreferableSize(width, height);
+    Forward(implAs<CKyUIBaseViewImpl>(), &CKyUIBaseViewImpl::SetPreferableSize, width, height);
 }
 
 void CKyUIBaseView::setMinimumWidth(int width)
 {
-    if (impl())
-        implAs<CKyUIBaseViewImpl>()->SetMinimumWidthImpl(width);
+    Forward(implAs<CKyUIBaseViewImpl>(), &CKyUIBaseViewImpl::SetMinimumWidthImpl, width);
 }
 
 void CKyUIBaseView::setMinimumHeight(int height)
 {
-    if (impl())
-        implAs<CKyUIBaseViewImpl>()->SetMinimumHeightImpl(height);
+    Forward(implAs<CKyUIBaseViewImpl>(), &CKyUIBaseViewImpl::SetMinimumHeightImpl, height);
 }
 
 void CKyUIBaseView::setMaximumWidth(int width)
 {
-    if (impl())
-        implAs<CKyUIBaseViewImpl>()->SetMaximumWidthImpl(width);
+    Forward(implAs<CKyUIBaseViewImpl>(), &CKyUIBaseViewImpl::SetMaximumWidthImpl, width);
 }
 
 void CKyUIBaseView::setMaximumHeight(int height)
 {
-    if (impl())
-        implAs<CKyUIBaseViewImpl>()->SetMaximumHeightImpl(height);
+    Forward(implAs<CKyUIBaseViewImpl>(), &CKyUIBaseViewImpl::SetMaximumHeightImpl, height);
 }
 
 void CKyUIBaseView::update()
 {
-    if (impl())
-        implAs<CKyUIBaseViewImpl>()->UpdateImpl();
+    Forward(implAs<CKyUIBaseViewImpl>(), &CKyUIBaseViewImpl::UpdateImpl);
 }
 
 void CKyUIBaseView::setPalette(const QPalette& palette)
 {
-    if (impl())
-        implAs<CKyUIBaseViewImpl>()->SetPalette(palette);
+    Forward(implAs<CKyUIBaseViewImpl>(), &CKyUIBaseViewImpl::SetPalette, palette);
 }
 
 const QPalette& CKyUIBaseView::palette() const
 {
-    return impl() ? implAs<CKyUIBaseViewImpl>()->Palette() : EmptyPalette();
+    return Ask(implAs<CKyUIBaseViewImpl>(), &CKyUIBaseViewImpl::Palette, EmptyPalette());
 }
 
 int CKyUIBaseView::backgroundRole() const
@@ -197,38 +196,35 @@ int CKyUIBaseView::backgroundRole() const
 
 void CKyUIBaseView::setBorderWidth(float width)
 {
-    if (impl())
-        implAs<CKyUIBaseViewImpl>()->SetBorderWidthImpl(width);
+    using Uniform = void (CKyUIBaseViewImpl::*)(float);
+    Forward(implAs<CKyUIBaseViewImpl>(), Uniform(&CKyUIBaseViewImpl::SetBorderWidthImpl), width);
 }
 
 void CKyUIBaseView::setBorderWidth(float left, float top, float right, float bottom)
 {
-    if (impl())
-        implAs<CKyUIBaseViewImpl>()->SetBorderWidthImpl(left, top, right, bottom);
+    using PerSide = void (CKyUIBaseViewImpl::*)(float, float, float, float);
+    Forward(implAs<CKyUIBaseViewImpl>(), PerSide(&CKyUIBaseViewImpl::SetBorderWidthImpl), left, top, right,
+            bottom);
 }
 
 void CKyUIBaseView::setBorderColor(int red, int green, int blue)
 {
-    if (impl())
-        implAs<CKyUIBaseViewImpl>()->SetBorderColorImpl(red, green, blue);
+    Forward(implAs<CKyUIBaseViewImpl>(), &CKyUIBaseViewImpl::SetBorderColorImpl, red, green, blue);
 }
 
 void CKyUIBaseView::setCornerRadius(float radius)
 {
-    if (impl())
-        implAs<CKyUIBaseViewImpl>()->SetCornerRadiusImpl(radius);
+    Forward(implAs<CKyUIBaseViewImpl>(), &CKyUIBaseViewImpl::SetCornerRadiusImpl, radius);
 }
 
 void CKyUIBaseView::addStyleClass(const QString& name, bool value)
 {
-    if (impl())
-        implAs<CKyUIBaseViewImpl>()->AddStyleClassImpl(name, value);
+    Forward(implAs<CKyUIBaseViewImpl>(), &CKyUIBaseViewImpl::AddStyleClassImpl, name, value);
 }
 
 void CKyUIBaseView::removeStyleClass(const QString& name, bool value)
 {
-    if (impl())
-        implAs<CKyUIBaseViewImpl>()->RemoveStyleClassImpl(name, value);
+    Forward(implAs<CKyUIBaseViewImpl>(), &CKyUIBaseViewImpl::RemoveStyleClassImpl, name, value);
 }
 
 void CKyUIBaseView::showEvent(CKyUIShowEvent*)

@@ -70,15 +70,15 @@ void CKyUIDialog::setWindowTitle(const QString& title)
 
 CKyUISignal<void()>& CKyUIDialog::accepted()
 {
-    return implAs<CKyUIDialogImpl>()->Accepted();
+    return implAs<CKyUIDialogImpl>()->accepted;
 }
 
 CKyUISignal<void()>& CKyUIDialog::rejected()
 {
-    return implAs<CKyUIDialogImpl>()->Rejected();
+    return implAs<CKyUIDialogImpl>()->rejected;
 }
 
 CKyUISignal<void(int)>& CKyUIDialog::finished()
 {
-    return implAs<CKyUIDialogImpl>()->Finished();
+    return implAs<CKyUIDialogImpl>()->finished;
 }

@@ -14,18 +14,18 @@ CKyUIDialogButtonBox::CKyUIDialogButtonBox(CKyUIDialog* dialog)
     setParent(dialog);
 
     // None of these is ever disconnected. The two on the dialog may outlive
-    // the box, so they look it up through its lifetime token.
-    const std::weak_ptr<CKyUIDialogButtonBoxImpl*> lifetime = impl->Lifetime();
-    dialog->accepted().connect([lifetime]() {
-        if (const auto alive = lifetime.lock())
-            (*alive)->Button(Ok)->clicked().Emit(true);
+    // the box, so they ask its lifetime first.
+    const CKyUIObjectImpl::Lifetime lifetime = impl->GetLifetime();
+    dialog->accepted().connect([impl, lifetime]() {
+        if (lifetime.Alive())
+            impl->Button(Ok)->clicked().Emit(true);
     });
-    dialog->rejected().connect([lifetime]() {
-        if (const auto alive = lifetime.lock())
-            (*alive)->Button(Cancel)->clicked().Emit(true);
+    dialog->rejected().connect([impl, lifetime]() {
+        if (lifetime.Alive())
+            impl->Button(Cancel)->clicked().Emit(true);
     });
-    impl->Button(Ok)->clicked().connect([impl](bool) { impl->Accepted().Emit(); });
-    impl->Button(Cancel)->clicked().connect([impl](bool) { impl->Rejected().Emit(); });
+    impl->Button(Ok)->clicked().connect([impl](bool) { impl->accepted.Emit(); });
+    impl->Button(Cancel)->clicked().connect([impl](bool) { impl->rejected.Emit(); });
 }
 
 CKyUIDialogButtonBox::~CKyUIDialogButtonBox() = default;
@@ -39,20 +39,20 @@ CKyUIPushButton* CKyUIDialogButtonBox::button(StandardButton which) const
 
 CKyUISignal<void()>& CKyUIDialogButtonBox::accepted()
 {
-    return implAs<CKyUIDialogButtonBoxImpl>()->Accepted();
+    return implAs<CKyUIDialogButtonBoxImpl>()->accepted;
 }
 
 CKyUISignal<void(CKyUIPushButton*)>& CKyUIDialogButtonBox::clicked()
 {
-    return implAs<CKyUIDialogButtonBoxImpl>()->Clicked();
+    return implAs<CKyUIDialogButtonBoxImpl>()->clicked;
 }
 
 CKyUISignal<void()>& CKyUIDialogButtonBox::helpRequest()
 {
-    return implAs<CKyUIDialogButtonBoxImpl>()->HelpRequest();
+    return implAs<CKyUIDialogButtonBoxImpl>()->helpRequest;
 }
 
 CKyUISignal<void()>& CKyUIDialogButtonBox::rejected()
 {
-    return implAs<CKyUIDialogButtonBoxImpl>()->Rejected();
+    return implAs<CKyUIDialogButtonBoxImpl>()->rejected;
 }

@@ -1,7 +1,7 @@
 #include "UI/CKyUIMenu.h"
 
 #include "UI/Impl/CKyUIMenuImpl.h"
-#include "UI/Impl/KyBaseViewImpl.h"
+#include "UI/Impl/qt/KyBaseViewImpl.h"
 
 CKyUIMenu::CKyUIMenu()
 {

@@ -50,5 +50,5 @@ void CKyUIPushButton::setCheckable(bool checkable)
 
 CKyUISignal<void(bool)>& CKyUIPushButton::clicked()
 {
-    return implAs<CKyUIPushButtonImpl>()->Clicked();
+    return implAs<CKyUIPushButtonImpl>()->clicked;
 }

@@ -1,10 +1,9 @@
 #include "UI/CKyUIStyle.h"
 
-#include <QtCore/QFile>
-#include <QtCore/QIODevice>
+#include "UI/Impl/qt/KyThemeResources.h"
+
 #include <QtCore/QMap>
 #include <QtCore/QStringList>
-#include <QtCore/QTextStream>
 
 std::shared_ptr<CKyUIStyle> g_pStyle;
 
@@ -23,13 +22,9 @@ CKyUIStyle::CKyUIStyle()
 
 void CKyUIStyle::Load()
 {
-    // Both files are opened without QIODevice::Text: CR LF stays as it is.
-    QFile colorsFile(QStringLiteral(":/commonui/resources/qss/style.colors"));
-    if (!colorsFile.open(QIODevice::ReadOnly))
+    QString colorsText;
+    if (!KyThemeResources::Read(QStringLiteral(":/commonui/resources/qss/style.colors"), colorsText))
         return;
-    QTextStream colorsStream(&colorsFile);
-    const QString colorsText = colorsStream.readAll();
-    colorsFile.close();
 
     // Lines are cut at LF only, so every value keeps the CR in front of it;
     // the sheet's parser takes that CR for white space. The defaults of
@@ -43,12 +38,8 @@ void CKyUIStyle::Load()
         colors.insert(parts.at(0), parts.at(1));
     }
 
-    QFile sheetFile(QStringLiteral(":/commonui/resources/qss/style.qss"));
-    if (!sheetFile.open(QIODevice::ReadOnly))
+    if (!KyThemeResources::Read(QStringLiteral(":/commonui/resources/qss/style.qss"), styleSheet))
         return;
-    QTextStream sheetStream(&sheetFile);
-    styleSheet = sheetStream.readAll();
-    sheetFile.close();
 
     // Plain substring replacement in the map's key order; the shipped names
     // occur nowhere else in the sheet, and the values are hex colours.

@@ -28,7 +28,7 @@ bool CKyUITimer::isActive() const
 
 CKyUISignal<void()>& CKyUITimer::timeout()
 {
-    return implAs<CKyUITimerImpl>()->timeout();
+    return implAs<CKyUITimerImpl>()->timeout;
 }
 
 void CKyUITimer::singleShot(int msec, std::function<void()> callback)

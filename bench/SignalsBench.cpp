@@ -5,8 +5,10 @@
 // Every emission goes through a function that is never inlined, for the floor
 // and the others alike, so that each pays one call as a real emitter does.
 // The emission cases report the allocations they make per emission
-// ("allocs"), counted by the replacement of operator new below.
+// ("allocs"), counted on the emitting thread by the test support's
+// replacement of operator new.
 #include "BenchSender.h"
+#include "support/CountingAllocator.h"
 
 #include "UI/CKyUIObject.h"
 #include "UI/CKyUISignal.h"
@@ -18,39 +20,14 @@
 #include <QtCore/QString>
 
 #include <algorithm>
-#include <atomic>
 #include <chrono>
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
 #include <functional>
 #include <memory>
-#include <new>
 #include <thread>
 #include <vector>
-
-namespace
-{
-std::atomic<long> g_allocations{0};
-} // namespace
-
-void* operator new(std::size_t size)
-{
-    g_allocations.fetch_add(1, std::memory_order_relaxed);
-    if (void* p = std::malloc(size != 0 ? size : 1))
-        return p;
-    throw std::bad_alloc();
-}
-
-void operator delete(void* p) noexcept
-{
-    std::free(p);
-}
-
-void operator delete(void* p, std::size_t) noexcept
-{
-    std::free(p);
-}
 
 #pragma push_macro("emit")
 #undef emit
@@ -128,10 +105,10 @@ template <class Signal, class Arg> [[gnu::noinline]] void boostEmit(Signal& sign
 
 template <class Emit> void runEmission(benchmark::State& state, long& sink, Emit emitOnce)
 {
-    const long before = g_allocations.load(std::memory_order_relaxed);
+    const AllocationCounter counter;
     for (auto _ : state)
         emitOnce();
-    const long allocations = g_allocations.load(std::memory_order_relaxed) - before;
+    const long allocations = counter.count();
     benchmark::DoNotOptimize(sink);
     state.counters["allocs"] =
         benchmark::Counter(static_cast<double>(allocations), benchmark::Counter::kAvgIterations);

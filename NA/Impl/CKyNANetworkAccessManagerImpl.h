@@ -4,9 +4,6 @@
 
 class QByteArray;
 class QIODevice;
-class QNetworkAccessManager;
-class QNetworkReply;
-class QNetworkRequest;
 class CKyNANetworkAccessManager;
 class CKyNANetworkReply;
 class CKyNANetworkRequest;
@@ -37,11 +34,4 @@ public:
     CKyNANetworkReply* PutImpl(const CKyNANetworkRequest& request, QIODevice* data);
     CKyNANetworkReply* PutImpl(const CKyNANetworkRequest& request, const QByteArray& data);
     CKyNANetworkReply* DeleteResourceImpl(const CKyNANetworkRequest& request);
-
-private:
-    // The toolkit manager and request, or false when either is missing.
-    bool Toolkit(const CKyNANetworkRequest& request, QNetworkAccessManager*& manager,
-                 QNetworkRequest*& toolkitRequest) const;
-    // Arms the time-out on a started toolkit reply and wraps it.
-    static CKyNANetworkReply* StartReply(QNetworkReply* reply, const CKyNANetworkRequest& request);
 };

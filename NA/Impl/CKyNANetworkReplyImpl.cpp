@@ -2,16 +2,7 @@
 
 #include "NA/Impl/CKyNANetworkRequestImpl.h"
 
-#include <QtNetwork/QNetworkReply>
-#include <QtNetwork/QNetworkRequest>
-
-static_assert(int(CKyNANetworkReply::OperationCanceledError) == int(QNetworkReply::OperationCanceledError),
-              "");
-static_assert(int(CKyNANetworkReply::InsecureRedirectError) == int(QNetworkReply::InsecureRedirectError), "");
-static_assert(int(CKyNANetworkReply::UnknownProxyError) == int(QNetworkReply::UnknownProxyError), "");
-static_assert(int(CKyNANetworkReply::ContentGoneError) == int(QNetworkReply::ContentGoneError), "");
-static_assert(int(CKyNANetworkReply::ProtocolFailure) == int(QNetworkReply::ProtocolFailure), "");
-static_assert(int(CKyNANetworkReply::UnknownServerError) == int(QNetworkReply::UnknownServerError), "");
+#include <QtCore/QIODevice>
 
 namespace
 {
@@ -20,20 +11,15 @@ namespace
 // library is loaded and released when it is unloaded.
 const CKyNANetworkReplyImpl::HeaderPairs g_emptyHeaderPairs;
 
-QNetworkReply* toolkitReply(CKyUIObject* owner)
-{
-    return qobject_cast<QNetworkReply*>(owner->getHandle());
-}
-
 } // namespace
 
 CKyNANetworkReplyImpl::CKyNANetworkReplyImpl(CKyNANetworkReply* owner, QObject* reply)
     : CKyUIObjectImpl(owner)
-    , downloadProgressSignal(owner)
-    , uploadProgressSignal(owner)
-    , encryptedSignal(owner)
-    , errorSignal(owner)
-    , finishedSignal(owner)
+    , downloadProgress(owner)
+    , uploadProgress(owner)
+    , encrypted(owner)
+    , error(owner)
+    , finished(owner)
     , m_headerPairs(g_emptyHeaderPairs)
 {
     owner->setHandle(reply);
@@ -56,7 +42,7 @@ void CKyNANetworkReplyImpl::setRequest(const CKyNANetworkRequest& request)
     SetRequestImpl(m_request);
 }
 
-CKyNANetworkReply::NetworkError CKyNANetworkReplyImpl::error() const
+CKyNANetworkReply::NetworkError CKyNANetworkReplyImpl::errorCode() const
 {
     return ErrorImpl();
 }
@@ -129,24 +115,24 @@ void CKyNANetworkReplyImpl::abort()
 
 void CKyNANetworkReplyImpl::OnDownloadProgress(long long received, long long total)
 {
-    downloadProgressSignal.Emit(received, total);
+    downloadProgress.Emit(received, total);
 }
 
 void CKyNANetworkReplyImpl::OnUploadProgress(long long sent, long long total)
 {
-    uploadProgressSignal.Emit(sent, total);
+    uploadProgress.Emit(sent, total);
 }
 
 void CKyNANetworkReplyImpl::OnEncrypted()
 {
-    encryptedSignal.Emit();
+    encrypted.Emit();
 }
 
 void CKyNANetworkReplyImpl::OnError(CKyNANetworkReply::NetworkError code, QIODevice* device)
 {
     // The body becomes readable now; the reply is not finished yet.
     m_device = device;
-    errorSignal.Emit(code);
+    error.Emit(code);
 }
 
 void CKyNANetworkReplyImpl::OnFinished(int status, const HeaderPairs& pairs, QIODevice* device)
@@ -161,84 +147,5 @@ void CKyNANetworkReplyImpl::OnFinished(int status, const HeaderPairs& pairs, QIO
             m_headerNames.append(pair.first);
     }
     m_httpStatusCode = status;
-    finishedSignal.Emit();
-}
-
-void CKyNANetworkReplyImpl::ConnectNetworkReplySignalsImpl()
-{
-    m_ownsDevice = false;
-    QNetworkReply* reply = toolkitReply(owner());
-    if (!reply)
-        return;
-
-    m_connections << QObject::connect(
-        reply, &QNetworkReply::downloadProgress, reply,
-        [this](qint64 received, qint64 total) { OnDownloadProgress(received, total); }, Qt::DirectConnection);
-    m_connections << QObject::connect(
-        reply, &QNetworkReply::uploadProgress, reply,
-        [this](qint64 sent, qint64 total) { OnUploadProgress(sent, total); }, Qt::DirectConnection);
-    m_connections << QObject::connect(
-        reply, &QNetworkReply::encrypted, reply, [this] { OnEncrypted(); }, Qt::DirectConnection);
-    // 5.15 deprecates the error signal in favour of errorOccurred; older
-    // versions have only the former.
-#if QT_VERSION >= QT_VERSION_CHECK(5, 15, 0)
-    const auto errorSignalOfReply = &QNetworkReply::errorOccurred;
-#else
-    const auto errorSignalOfReply = QOverload<QNetworkReply::NetworkError>::of(&QNetworkReply::error);
-#endif
-    m_connections << QObject::connect(
-        reply, errorSignalOfReply, reply,
-        [this, reply](QNetworkReply::NetworkError code) {
-            OnError(CKyNANetworkReply::NetworkError(code), reply);
-        },
-        Qt::DirectConnection);
-    m_connections << QObject::connect(
-        reply, &QNetworkReply::finished, reply,
-        [this, reply] {
-            OnFinished(reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt(),
-                       reply->rawHeaderPairs(), reply);
-        },
-        Qt::DirectConnection);
-    // Should the toolkit reply die first (its manager deleted), forget it
-    // rather than reach for a dangling pointer.
-    m_connections << QObject::connect(reply, &QObject::destroyed, [this] {
-        owner()->setHandle(nullptr);
-        m_device = nullptr;
-    });
-}
-
-void CKyNANetworkReplyImpl::DestroyNetworkReplyImpl()
-{
-    for (const QMetaObject::Connection& connection : qAsConst(m_connections))
-        QObject::disconnect(connection);
-    m_connections.clear();
-    if (QNetworkReply* reply = toolkitReply(owner()))
-        reply->deleteLater();
-    owner()->setHandle(nullptr);
-}
-
-void CKyNANetworkReplyImpl::SetRequestImpl(const CKyNANetworkRequest*) {}
-
-CKyNANetworkReply::NetworkError CKyNANetworkReplyImpl::ErrorImpl() const
-{
-    QNetworkReply* reply = toolkitReply(owner());
-    return reply ? CKyNANetworkReply::NetworkError(reply->error()) : CKyNANetworkReply::NoError;
-}
-
-QString CKyNANetworkReplyImpl::ErrorStringImpl() const
-{
-    QNetworkReply* reply = toolkitReply(owner());
-    return reply ? reply->errorString() : QString();
-}
-
-QVariant CKyNANetworkReplyImpl::AttributeImpl(CKyNANetworkRequest::Attribute code) const
-{
-    QNetworkReply* reply = toolkitReply(owner());
-    return reply ? reply->attribute(QNetworkRequest::Attribute(code)) : QVariant();
-}
-
-void CKyNANetworkReplyImpl::AbortImpl()
-{
-    if (QNetworkReply* reply = toolkitReply(owner()))
-        reply->abort();
+    finished.Emit();
 }

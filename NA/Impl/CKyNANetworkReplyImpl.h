@@ -26,7 +26,7 @@ public:
     bool isFinished() const { return m_finished; }
     bool isRunning() const { return !m_finished; }
 
-    CKyNANetworkReply::NetworkError error() const;
+    CKyNANetworkReply::NetworkError errorCode() const;
     QString errorString() const;
 
     long long bytesAvailable() const;
@@ -60,11 +60,11 @@ public:
     void OnError(CKyNANetworkReply::NetworkError code, QIODevice* device);
     void OnFinished(int status, const HeaderPairs& pairs, QIODevice* device);
 
-    CKyUISignal<void(long long, long long)> downloadProgressSignal;
-    CKyUISignal<void(long long, long long)> uploadProgressSignal;
-    CKyUISignal<void()> encryptedSignal;
-    CKyUISignal<void(CKyNANetworkReply::NetworkError)> errorSignal;
-    CKyUISignal<void()> finishedSignal;
+    CKyUISignal<void(long long, long long)> downloadProgress;
+    CKyUISignal<void(long long, long long)> uploadProgress;
+    CKyUISignal<void()> encrypted;
+    CKyUISignal<void(CKyNANetworkReply::NetworkError)> error;
+    CKyUISignal<void()> finished;
 
 private:
     // Index of a name among the distinct names received, -1 if absent.

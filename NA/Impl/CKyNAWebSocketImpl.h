@@ -6,8 +6,6 @@
 #include <QtCore/QList>
 #include <QtCore/QMetaObject>
 
-#include <memory>
-
 class CKyNANetworkRequest;
 
 // Drives one toolkit web socket, connected from construction on: the
@@ -29,18 +27,15 @@ public:
 
     // Reactions to the toolkit socket.
     void OnConnected();
-    void OnError(int error);
+    void OnError(int code);
     void OnDisconnected();
     void OnTextMessageReceived(const QString& message);
 
-    CKyUISignal<void()> connectedSignal;
-    CKyUISignal<void(int)> errorSignal;
-    CKyUISignal<void()> disconnectedSignal;
-    CKyUISignal<void(const QString&)> textMessageReceivedSignal;
+    CKyUISignal<void()> connected;
+    CKyUISignal<void(int)> error;
+    CKyUISignal<void()> disconnected;
+    CKyUISignal<void(const QString&)> textMessageReceived;
 
 private:
-    // How many reports of the toolkit socket are under way. Shared with each
-    // report, which counts itself out even when its slot deleted us.
-    const std::shared_ptr<int> m_reporting = std::make_shared<int>(0);
     QList<QMetaObject::Connection> m_connections;
 };

@@ -1,7 +1,7 @@
 #include "UI/Impl/CKyUIBaseViewImpl.h"
 
 #include "UI/CKyUIObject.h"
-#include "UI/Impl/KyBaseViewImpl.h"
+#include "UI/Impl/qt/KyBaseViewImpl.h"
 
 CKyUIBaseViewImpl::CKyUIBaseViewImpl(CKyUIObject* owner)
     : CKyUIObjectImpl(owner)

@@ -33,9 +33,6 @@ protected:
 
 private:
     QBoxLayout* GetBoxLayout() const;
-    // Size policy and integer stretch, common to add and insert; null when the
-    // child has no place in the toolkit layout.
-    QWidget* PrepareChildWidget(CKyUIBaseView* view) const;
 
     const Direction m_direction;
     QString m_title;

@@ -40,9 +40,5 @@ void CKyUICheckBoxImpl::OnSwitchChanged(bool checked)
 void CKyUICheckBoxImpl::EmitState(bool checked)
 {
     // 1 and 0, not the toolkit's check-state numbering.
-    const std::weak_ptr<const int> alive = Lifetime();
-    stateChanged.Emit(checked ? 1 : 0);
-    if (alive.expired())
-        return;
-    toggled.Emit(checked);
+    EmitInOrder([&] { stateChanged.Emit(checked ? 1 : 0); }, [&] { toggled.Emit(checked); });
 }

@@ -120,12 +120,7 @@ void CKyUIComboBoxImpl::SetCurrentIndex(int index)
         m_currentIndex = index;
         m_currentText = std::get<1>(m_items.at(index));
         const QString text = m_currentText;
-        const std::weak_ptr<const int> alive = Lifetime();
-        currentIndexChanged.Emit(index);
-        if (alive.expired())
-            return;
-        currentStringChanged.Emit(text);
-        if (alive.expired())
+        if (!EmitInOrder([&] { currentIndexChanged.Emit(index); }, [&] { currentStringChanged.Emit(text); }))
             return;
     }
     // Also when unchanged: the user may have picked another entry on screen.
@@ -170,14 +165,8 @@ void CKyUIComboBoxImpl::OnCurrentIndexChanged(int index)
     m_currentIndex = index;
     m_currentText = ItemText(index);
     const QString text = m_currentText;
-    const std::weak_ptr<const int> alive = Lifetime();
-    activated.Emit(index);
-    if (alive.expired())
-        return;
-    currentIndexChanged.Emit(index);
-    if (alive.expired())
-        return;
-    currentStringChanged.Emit(text);
+    EmitInOrder([&] { activated.Emit(index); }, [&] { currentIndexChanged.Emit(index); },
+                [&] { currentStringChanged.Emit(text); });
 }
 
 void CKyUIComboBoxImpl::OnEditTextChanged(const QString& text)

@@ -6,11 +6,10 @@
 CKyUIDialogButtonBoxImpl::CKyUIDialogButtonBoxImpl(CKyUIDialogButtonBox* owner, CKyUIDialog* dialog)
     : CKyUIBaseViewImpl(owner)
     , m_box(owner)
-    , m_accepted(owner)
-    , m_clicked(owner)
-    , m_helpRequest(owner)
-    , m_rejected(owner)
-    , m_lifetime(std::make_shared<CKyUIDialogButtonBoxImpl*>(this))
+    , accepted(owner)
+    , clicked(owner)
+    , helpRequest(owner)
+    , rejected(owner)
 {
     CreateButtonBoxImpl(dialog);
 }
@@ -46,12 +45,12 @@ CKyUIPushButton* CKyUIDialogButtonBoxImpl::Button(int which) const
 void CKyUIDialogButtonBoxImpl::OnResult(int code)
 {
     if (code == 1)
-        m_accepted.Emit();
+        accepted.Emit();
     else
-        m_rejected.Emit();
+        rejected.Emit();
 }
 
 void CKyUIDialogButtonBoxImpl::OnClicked()
 {
-    m_clicked.Emit(m_helpButton);
+    clicked.Emit(m_helpButton);
 }

@@ -5,8 +5,6 @@
 
 #include <QtCore/QMetaObject>
 
-#include <memory>
-
 class CKyUIDialog;
 class CKyUIDialogButtonBox;
 class CKyUIPushButton;
@@ -22,19 +20,10 @@ public:
 
     CKyUIPushButton* Button(int which) const;
 
-    CKyUISignal<void()>& Accepted() { return m_accepted; }
-    CKyUISignal<void(CKyUIPushButton*)>& Clicked() { return m_clicked; }
-    CKyUISignal<void()>& HelpRequest() { return m_helpRequest; }
-    CKyUISignal<void()>& Rejected() { return m_rejected; }
-
     // 1 reports acceptance, anything else rejection.
     void OnResult(int code);
     // Reports the Help wrapper for every button, deliberately.
     void OnClicked();
-
-    // Lets the connections made on the dialog's signals, which outlive a box
-    // deleted early, find out whether the box still exists.
-    std::weak_ptr<CKyUIDialogButtonBoxImpl*> Lifetime() const { return m_lifetime; }
 
 private:
     // Creates the toolkit box inside the dialog, joins the dialog's root
@@ -48,12 +37,15 @@ private:
     CKyUIPushButton* m_okButton = nullptr;     // owned
     CKyUIPushButton* m_cancelButton = nullptr; // owned
     CKyUIPushButton* m_helpButton = nullptr;   // owned
-    CKyUISignal<void()> m_accepted;
-    CKyUISignal<void(CKyUIPushButton*)> m_clicked;
-    CKyUISignal<void()> m_helpRequest;
-    CKyUISignal<void()> m_rejected;
+
+public:
+    CKyUISignal<void()> accepted;
+    CKyUISignal<void(CKyUIPushButton*)> clicked;
+    CKyUISignal<void()> helpRequest;
+    CKyUISignal<void()> rejected;
+
+private:
     QMetaObject::Connection m_toolkitAccepted;
     QMetaObject::Connection m_toolkitRejected;
     QMetaObject::Connection m_toolkitClicked;
-    const std::shared_ptr<CKyUIDialogButtonBoxImpl*> m_lifetime;
 };

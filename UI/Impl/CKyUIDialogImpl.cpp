@@ -8,9 +8,9 @@ CKyUIDialogImpl::CKyUIDialogImpl(CKyUIDialog* owner)
     : CKyUIObjectImpl(owner)
     , m_dialog(owner)
     , m_windowTitle(QString())
-    , m_accepted(owner)
-    , m_rejected(owner)
-    , m_finished(owner)
+    , accepted(owner)
+    , rejected(owner)
+    , finished(owner)
 {
     CreateFrontendDialogImpl();
 }
@@ -93,20 +93,20 @@ void CKyUIDialogImpl::SetWindowTitle(const QString& title)
 
 void CKyUIDialogImpl::OnAccepted()
 {
-    m_accepted.Emit();
+    accepted.Emit();
 }
 
 void CKyUIDialogImpl::OnAcceptPressed()
 {
-    m_accepted.Emit();
+    accepted.Emit();
 }
 
 void CKyUIDialogImpl::OnRejected()
 {
-    m_rejected.Emit();
+    rejected.Emit();
 }
 
 void CKyUIDialogImpl::OnRejectPressed()
 {
-    m_rejected.Emit();
+    rejected.Emit();
 }

@@ -34,10 +34,6 @@ public:
     const QString& WindowTitle() const { return m_windowTitle; }
     CKyUIVerticalLayout* GetLayout() const { return m_rootLayout; }
 
-    CKyUISignal<void()>& Accepted() { return m_accepted; }
-    CKyUISignal<void()>& Rejected() { return m_rejected; }
-    CKyUISignal<void(int)>& Finished() { return m_finished; }
-
     // No toolkit signal is connected to these; client code may call them.
     void OnAccepted();
     void OnAcceptPressed();
@@ -65,7 +61,9 @@ private:
     CKyUIVerticalLayout* m_rootLayout = nullptr; // owned
     QString m_windowTitle;
     int m_result = 0;
-    CKyUISignal<void()> m_accepted;
-    CKyUISignal<void()> m_rejected;
-    CKyUISignal<void(int)> m_finished;
+
+public:
+    CKyUISignal<void()> accepted;
+    CKyUISignal<void()> rejected;
+    CKyUISignal<void(int)> finished;
 };

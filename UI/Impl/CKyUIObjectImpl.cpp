@@ -5,7 +5,10 @@ CKyUIObjectImpl::CKyUIObjectImpl(CKyUIObject* owner)
 {
 }
 
-CKyUIObjectImpl::~CKyUIObjectImpl() = default;
+CKyUIObjectImpl::~CKyUIObjectImpl()
+{
+    m_lifetime->alive = false;
+}
 
 QString CKyUIObjectImpl::GetFrontendClassName()
 {

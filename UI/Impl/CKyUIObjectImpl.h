@@ -4,6 +4,7 @@
 #include <QtCore/QVariant>
 
 #include <memory>
+#include <utility>
 
 class CKyUIObject;
 
@@ -25,12 +26,56 @@ public:
 
     CKyUIObject* owner() const { return m_owner; }
 
-    // Expires when this object goes. An operation that reports through more
-    // than one signal takes it first and stops as soon as it has expired: a
-    // slot may delete the public object, and this one with it.
-    std::weak_ptr<const int> Lifetime() const { return m_lifetime; }
+    // Whether this implementation still exists, asked after calling out to
+    // client slots: a slot may delete the public object, and this one with it.
+    // Cheap to copy and safe to keep after the implementation is gone.
+    class Lifetime
+    {
+    public:
+        bool Alive() const { return m_state->alive; }
+
+    private:
+        friend class CKyUIObjectImpl;
+        struct State
+        {
+            bool alive = true;
+            int reporting = 0;
+        };
+        explicit Lifetime(std::shared_ptr<State> state)
+            : m_state(std::move(state))
+        {}
+        std::shared_ptr<State> m_state;
+    };
+
+    Lifetime GetLifetime() const { return Lifetime(m_lifetime); }
+
+    // Runs the emissions in order and stops as soon as one of their slots has
+    // deleted this object; answers whether it survived them all. Meanwhile it
+    // counts as a report under way (see IsReporting).
+    template <typename... Emissions>
+    bool EmitInOrder(Emissions&&... emissions) const
+    {
+        const Reporting reporting(m_lifetime);
+        const Lifetime& lifetime = reporting.lifetime;
+        return ((std::forward<Emissions>(emissions)(), lifetime.Alive()) && ...);
+    }
+
+    // True while EmitInOrder runs on this object. Asked by a destructor, it
+    // tells that one of the slots called is what deletes the object.
+    bool IsReporting() const { return m_lifetime->reporting > 0; }
 
 private:
+    struct Reporting
+    {
+        explicit Reporting(const std::shared_ptr<Lifetime::State>& state)
+            : lifetime(state)
+        {
+            ++state->reporting;
+        }
+        ~Reporting() { --lifetime.m_state->reporting; }
+        const Lifetime lifetime;
+    };
+
     CKyUIObject* const m_owner;
-    const std::shared_ptr<const int> m_lifetime = std::make_shared<const int>(0);
+    const std::shared_ptr<Lifetime::State> m_lifetime = std::make_shared<Lifetime::State>();
 };

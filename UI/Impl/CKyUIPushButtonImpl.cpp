@@ -4,7 +4,7 @@
 
 CKyUIPushButtonImpl::CKyUIPushButtonImpl(CKyUIPushButton* owner)
     : CKyUIBaseViewImpl(owner)
-    , m_clicked(owner)
+    , clicked(owner)
     , m_button(owner)
 {}
 
@@ -37,5 +37,5 @@ void CKyUIPushButtonImpl::OnPressed()
 {
     // A click that unchecks a checkable button still reports true.
     if (!m_button->signalsBlocked())
-        m_clicked.Emit(true);
+        clicked.Emit(true);
 }

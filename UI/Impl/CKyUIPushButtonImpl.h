@@ -23,7 +23,6 @@ public:
     const QString& Text() const { return m_text; }
     void SetIcon(const QIcon& icon);
     const QIcon& Icon() const { return m_icon; }
-    CKyUISignal<void(bool)>& Clicked() { return m_clicked; }
 
     // Driven by the toolkit's clicked(): the name is kept for what it always
     // was, the end of a press.
@@ -45,6 +44,10 @@ private:
 
     QString m_text;
     QIcon m_icon;
-    CKyUISignal<void(bool)> m_clicked;
+
+public:
+    CKyUISignal<void(bool)> clicked;
+
+private:
     CKyUIPushButton* const m_button;
 };

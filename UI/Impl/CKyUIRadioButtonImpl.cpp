@@ -40,11 +40,9 @@ void CKyUIRadioButtonImpl::OnClicked()
 
 void CKyUIRadioButtonImpl::OnToggled(bool checked)
 {
-    const std::weak_ptr<const int> alive = Lifetime();
     if (m_checked != checked) {
         m_checked = checked;
-        toggled.Emit(checked);
-        if (alive.expired())
+        if (!EmitInOrder([&] { toggled.Emit(checked); }))
             return;
     }
     released.Emit();

@@ -55,11 +55,7 @@ void CKyUIStackedWidgetImpl::OnTabClickedActivated(int index)
     if (index == m_currentIndex)
         return;
     m_currentIndex = index;
-    const std::weak_ptr<const int> alive = Lifetime();
-    tabBarClicked.Emit(index);
-    if (alive.expired())
-        return;
-    currentChanged.Emit(index);
+    EmitInOrder([&] { tabBarClicked.Emit(index); }, [&] { currentChanged.Emit(index); });
 }
 
 void CKyUIStackedWidgetImpl::OnPageActivated(int index)

@@ -37,11 +37,7 @@ void CKyUITextEditImpl::SetText(const QString& text)
     // The widget reports the change at once: textChanged and textEdited come
     // from there, and one more textChanged follows here.
     // A copy: the widget's report overwrites the stored text mid-call.
-    const std::weak_ptr<const int> alive = Lifetime();
-    SetTextImpl(QString(m_text));
-    if (alive.expired())
-        return;
-    textChanged.Emit(m_text);
+    EmitInOrder([this] { SetTextImpl(QString(m_text)); }, [this] { textChanged.Emit(m_text); });
 }
 
 void CKyUITextEditImpl::SetPlaceholderText(const QString& text)
@@ -90,11 +86,7 @@ void CKyUITextEditImpl::OnEditTextChanged(const QString& text)
 {
     // Every change the widget reports, typed or set, counts as an edit.
     m_text = text;
-    const std::weak_ptr<const int> alive = Lifetime();
-    textChanged.Emit(m_text);
-    if (alive.expired())
-        return;
-    textEdited.Emit(m_text);
+    EmitInOrder([this] { textChanged.Emit(m_text); }, [this] { textEdited.Emit(m_text); });
 }
 
 void CKyUITextEditImpl::OnEditingFinished()

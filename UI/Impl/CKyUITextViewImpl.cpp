@@ -19,11 +19,7 @@ void CKyUITextViewImpl::SetText(const QString& text)
     // Through the host's string class, without encoding.
     const QString hostText = CKyString(text);
     m_content = hostText;
-    const std::weak_ptr<const int> alive = Lifetime();
-    SetTextImpl(hostText);
-    if (alive.expired())
-        return;
-    textChanged.Emit();
+    EmitInOrder([&] { SetTextImpl(hostText); }, [this] { textChanged.Emit(); });
 }
 
 void CKyUITextViewImpl::SetHtmlText(const QString& text)

@@ -4,7 +4,7 @@
 
 CKyUITimerImpl::CKyUITimerImpl(CKyUIObject* owner)
     : CKyUIObjectImpl(owner)
-    , m_timeout(owner)
+    , timeout(owner)
 {
     CreateTimerImpl();
 }
@@ -35,5 +35,5 @@ void CKyUITimerImpl::OnTimeout()
 {
     // Cleared although the timer goes on firing.
     m_active = false;
-    m_timeout.Emit();
+    timeout.Emit();
 }

@@ -17,7 +17,6 @@ public:
     void start(int msec);
     void stop();
     bool isActive() const { return m_active; }
-    CKyUISignal<void()>& timeout() { return m_timeout; }
     static void singleShot(int msec, std::function<void()> callback);
 
     void CreateTimerImpl();
@@ -30,5 +29,7 @@ public:
 
 private:
     bool m_active = false;
-    CKyUISignal<void()> m_timeout;
+
+public:
+    CKyUISignal<void()> timeout;
 };

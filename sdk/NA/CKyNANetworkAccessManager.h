@@ -6,7 +6,6 @@
 
 class QByteArray;
 class QIODevice;
-class CKyNANetworkAccessManagerImpl;
 class CKyNANetworkReply;
 class CKyNANetworkRequest;
 
@@ -50,7 +49,4 @@ public:
     CKyNANetworkReply* put(const CKyNANetworkRequest& request, const QByteArray& data);
     /// Starts a DELETE; the caller owns the returned reply.
     CKyNANetworkReply* deleteResource(const CKyNANetworkRequest& request);
-
-private:
-    CKyNANetworkAccessManagerImpl* d() const;
 };

@@ -13,7 +13,6 @@
 #include <QtCore/QVariant>
 
 class QObject;
-class CKyNANetworkReplyImpl;
 
 /// One transfer started by the network access manager. Signals come from the
 /// toolkit's event loop; body and headers become readable with error() or
@@ -167,7 +166,4 @@ public:
     /// Emitted once when the transfer ends, successful or not; the headers and
     /// the body are readable from here on.
     CKyUISignal<void()>& finished();
-
-private:
-    CKyNANetworkReplyImpl* d() const;
 };

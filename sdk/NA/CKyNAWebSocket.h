@@ -9,7 +9,6 @@
 #include <QtCore/QString>
 
 class CKyNANetworkRequest;
-class CKyNAWebSocketImpl;
 
 /// A receive-only web socket: reports connection, disconnection, errors and
 /// incoming text messages; binary messages are not reported and nothing is
@@ -53,7 +52,4 @@ public:
     CKyUISignal<void()>& disconnected();
     /// Emitted with each text message received.
     CKyUISignal<void(const QString&)>& textMessageReceived();
-
-private:
-    CKyNAWebSocketImpl* d() const;
 };

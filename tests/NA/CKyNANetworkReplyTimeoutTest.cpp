@@ -1,4 +1,4 @@
-#include "NA/Impl/CKyNANetworkReplyTimeout.h"
+#include "NA/Impl/qt/CKyNANetworkReplyTimeout.h"
 #include "NA/CKyNANetworkAccessManager.h"
 #include "NA/CKyNANetworkReply.h"
 #include "NA/CKyNANetworkRequest.h"

@@ -1,3 +1,5 @@
+#include "support/CountingAllocator.h"
+
 #include "UI/CKyUIObject.h"
 #include "UI/CKyUISignal.h"
 #include "UI/slimsig/detail/signal_base"
@@ -7,38 +9,9 @@
 #include <QtCore/QString>
 
 #include <array>
-#include <cstdlib>
 #include <functional>
-#include <new>
 
-// Emission allocates nothing of its own. The test program's operator new
-// counts the allocations a thread makes while a counter is alive on it (the
-// network tests run toolkit threads of their own).
-
-namespace
-{
-thread_local bool t_counting = false;
-thread_local long t_allocations = 0;
-} // namespace
-
-void* operator new(std::size_t size)
-{
-    if (t_counting)
-        ++t_allocations;
-    if (void* p = std::malloc(size != 0 ? size : 1))
-        return p;
-    throw std::bad_alloc();
-}
-
-void operator delete(void* p) noexcept
-{
-    std::free(p);
-}
-
-void operator delete(void* p, std::size_t) noexcept
-{
-    std::free(p);
-}
+// Emission allocates nothing of its own.
 
 #pragma push_macro("emit")
 #undef emit
@@ -48,18 +21,6 @@ namespace
 
 template <class Sig>
 using Signal = slimsig::signal_base<slimsig::signal_traits<Sig>, std::allocator<std::function<Sig>>, Sig>;
-
-class AllocationCounter
-{
-public:
-    AllocationCounter()
-    {
-        t_allocations = 0;
-        t_counting = true;
-    }
-    ~AllocationCounter() { t_counting = false; }
-    long count() const { return t_allocations; }
-};
 
 TEST(SignalAllocation, EmissionAllocatesNothingWhateverTheSlots)
 {

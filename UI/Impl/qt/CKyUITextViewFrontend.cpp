@@ -57,9 +57,9 @@ void CKyUITextViewFrontend::OnEditContentChanged()
     if (!impl)
         return;
     // A slot may delete the view, and the implementation with it.
-    const std::weak_ptr<const int> alive = impl->Lifetime();
+    const CKyUIObjectImpl::Lifetime lifetime = impl->GetLifetime();
     impl->OnEditTextChanged(document()->toPlainText());
-    if (alive.expired() || !impl->GetAdjustHeightToContent())
+    if (!lifetime.Alive() || !impl->GetAdjustHeightToContent())
         return;
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     const int documentHeight = static_cast<int>(document()->documentLayout()->documentSize().height());

@@ -1,4 +1,4 @@
-#include "UI/Impl/KyBaseViewImpl.h"
+#include "UI/Impl/qt/KyBaseViewImpl.h"
 
 #include <QtCore/QObject>
 

@@ -1,8 +1,8 @@
 #include "UI/Impl/CKyUIBoxLayoutImpl.h"
 
 #include "UI/CKyUIBaseView.h"
+#include "UI/Impl/qt/KyBoxPlacement.h"
 
-#include <QtWidgets/QButtonGroup>
 #include <QtWidgets/QGroupBox>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QVBoxLayout>
@@ -26,45 +26,25 @@ QBoxLayout* CKyUIBoxLayoutImpl::GetBoxLayout() const
     return box ? qobject_cast<QBoxLayout*>(box->layout()) : nullptr;
 }
 
-QWidget* CKyUIBoxLayoutImpl::PrepareChildWidget(CKyUIBaseView* view) const
+namespace
 {
-    // Radio groups are members of the public tree, not of the toolkit layout.
-    if (!view || qobject_cast<QButtonGroup*>(view->getHandle()))
-        return nullptr;
-    QWidget* widget = WidgetOf(view);
-    if (!widget)
-        return nullptr;
-    // Overrides whatever policy the child's class chose.
-    widget->setSizePolicy(QSizePolicy::Preferred, m_direction == Direction::Horizontal
-                                                      ? QSizePolicy::Preferred
-                                                      : QSizePolicy::Minimum);
-    return widget;
+// A row leaves its children their preferred height, a column its minimum.
+QSizePolicy::Policy ChildVerticalPolicy(CKyUIBoxLayoutImpl::Direction direction)
+{
+    return direction == CKyUIBoxLayoutImpl::Direction::Horizontal ? QSizePolicy::Preferred
+                                                                  : QSizePolicy::Minimum;
 }
+} // namespace
 
 void CKyUIBoxLayoutImpl::AddViewImpl(CKyUIBaseView* view, float stretch)
 {
-    QBoxLayout* layout = GetBoxLayout();
-    QWidget* widget = layout ? PrepareChildWidget(view) : nullptr;
-    if (!widget)
-        return;
-    const int integerStretch = static_cast<int>(stretch);
-    if (m_direction == Direction::Horizontal)
-        layout->addWidget(widget, integerStretch, Qt::Alignment());
-    else
-        layout->insertWidget(layout->count(), widget, integerStretch, Qt::Alignment());
+    KyBoxPlacement::Add(GetBoxLayout(), view, stretch, m_direction == Direction::Vertical,
+                        ChildVerticalPolicy(m_direction));
 }
 
 void CKyUIBoxLayoutImpl::InsertViewImpl(CKyUIBaseView* view, int index, float stretch)
 {
-    QBoxLayout* layout = GetBoxLayout();
-    QWidget* widget = layout ? PrepareChildWidget(view) : nullptr;
-    if (!widget)
-        return;
-    // A position past the end is the end, as a negative one is for the
-    // toolkit, which asserts on the former in its debug builds.
-    if (index > layout->count())
-        index = -1;
-    layout->insertWidget(index, widget, static_cast<int>(stretch), Qt::Alignment());
+    KyBoxPlacement::Insert(GetBoxLayout(), view, index, stretch, ChildVerticalPolicy(m_direction));
 }
 
 void CKyUIBoxLayoutImpl::RemoveWidgetImpl(CKyUIBaseView* view)

@@ -1,4 +1,4 @@
-#include "NA/Impl/CKyNANetworkReplyTimeout.h"
+#include "NA/Impl/qt/CKyNANetworkReplyTimeout.h"
 
 #include <QtCore/QTimerEvent>
 #include <QtNetwork/QNetworkReply>

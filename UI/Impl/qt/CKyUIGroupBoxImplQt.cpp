@@ -1,9 +1,9 @@
 #include "UI/Impl/CKyUIGroupBoxImpl.h"
 
 #include "UI/Impl/qt/CKyUIGroupBoxFrontend.h"
+#include "UI/Impl/qt/KyBoxPlacement.h"
 
 #include <QtWidgets/QBoxLayout>
-#include <QtWidgets/QButtonGroup>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QVBoxLayout>
 
@@ -18,19 +18,6 @@ QBoxLayout* LayoutOf(const CKyUIObject* owner)
 {
     CKyUIGroupBoxFrontend* frontend = FrontendOf(owner);
     return frontend ? qobject_cast<QBoxLayout*>(frontend->layout()) : nullptr;
-}
-
-// Size policy common to add and insert; null when the child takes no place in
-// the toolkit layout.
-QWidget* PrepareChildWidget(CKyUIBaseView* view)
-{
-    // Radio groups are no widgets: members of the public tree only.
-    if (!view || qobject_cast<QButtonGroup*>(view->getHandle()))
-        return nullptr;
-    QWidget* widget = CKyUIBaseViewImpl::WidgetOf(view);
-    if (widget)
-        widget->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Minimum);
-    return widget;
 }
 } // namespace
 
@@ -49,28 +36,12 @@ void CKyUIGroupBoxImpl::CreateFrontendControl()
 
 void CKyUIGroupBoxImpl::AddViewImpl(CKyUIBaseView* view, float stretch)
 {
-    QBoxLayout* layout = LayoutOf(owner());
-    QWidget* widget = layout ? PrepareChildWidget(view) : nullptr;
-    if (!widget)
-        return;
-    const int integerStretch = static_cast<int>(stretch);
-    if (IsVertical())
-        layout->insertWidget(layout->count(), widget, integerStretch, Qt::Alignment());
-    else
-        layout->addWidget(widget, integerStretch, Qt::Alignment());
+    KyBoxPlacement::Add(LayoutOf(owner()), view, stretch, IsVertical(), QSizePolicy::Minimum);
 }
 
 void CKyUIGroupBoxImpl::InsertViewImpl(CKyUIBaseView* view, int index, float stretch)
 {
-    QBoxLayout* layout = LayoutOf(owner());
-    QWidget* widget = layout ? PrepareChildWidget(view) : nullptr;
-    if (!widget)
-        return;
-    // A position past the end is the end, as a negative one is for the
-    // toolkit, which asserts on the former in its debug builds.
-    if (index > layout->count())
-        index = -1;
-    layout->insertWidget(index, widget, static_cast<int>(stretch), Qt::Alignment());
+    KyBoxPlacement::Insert(LayoutOf(owner()), view, index, stretch, QSizePolicy::Minimum);
 }
 
 void CKyUIGroupBoxImpl::SetTitleImpl(const QString& title)
