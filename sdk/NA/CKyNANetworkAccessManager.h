@@ -9,19 +9,44 @@ class QIODevice;
 class CKyNANetworkReply;
 class CKyNANetworkRequest;
 
-// Starts HTTP transfers. Each call returns a new reply that the caller owns
-// and deletes before the manager; every transfer is aborted when it runs
-// longer than the request's time-out (30000 ms unless the request sets one).
+/// Starts HTTP transfers. Each call returns a new reply that the caller owns
+/// and deletes before the manager; every transfer is aborted when it runs
+/// longer than the request's time-out (30000 ms unless the request sets one).
+///
+/// Each operation starts the transfer at once and returns a distinct
+/// CKyNANetworkReply, also for equal requests. The time-out bounds the whole
+/// transfer, not a period of silence: progress does not restart it. An
+/// aborted transfer reports `error(OperationCanceledError)` and then
+/// `finished()`. The manager keeps no list of its replies, and reports nothing
+/// itself: failures arrive through the reply.
+///
+/// **Lifetime.** Deleting the manager ends at once every transfer whose reply
+/// has not been deleted yet; such replies must not be used afterwards, so
+/// delete replies first. The reply remembers the address of the request it was
+/// started with (see CKyNANetworkReply::request()).
+///
+/// See \ref services.
 class COMMONUI_EXPORT CKyNANetworkAccessManager : public CKyUIObject
 {
 public:
+    /// A manager with its own toolkit network access manager.
     CKyNANetworkAccessManager();
+    /// Deletes the toolkit manager at once, and with it the transfers of the
+    /// replies not deleted yet.
     ~CKyNANetworkAccessManager() override;
 
+    /// Starts a GET; the caller owns the returned reply.
     CKyNANetworkReply* get(const CKyNANetworkRequest& request);
+    /// Starts a POST of what @p data yields; the device must stay open until
+    /// the upload is done. The caller owns the returned reply.
     CKyNANetworkReply* post(const CKyNANetworkRequest& request, QIODevice* data);
+    /// Starts a POST of @p data; the caller owns the returned reply.
     CKyNANetworkReply* post(const CKyNANetworkRequest& request, const QByteArray& data);
+    /// Starts a PUT of what @p data yields; the device must stay open until
+    /// the upload is done. The caller owns the returned reply.
     CKyNANetworkReply* put(const CKyNANetworkRequest& request, QIODevice* data);
+    /// Starts a PUT of @p data; the caller owns the returned reply.
     CKyNANetworkReply* put(const CKyNANetworkRequest& request, const QByteArray& data);
+    /// Starts a DELETE; the caller owns the returned reply.
     CKyNANetworkReply* deleteResource(const CKyNANetworkRequest& request);
 };

@@ -5,26 +5,42 @@
 
 #include <QtGui/QIcon>
 
-// A command with a text, an icon and check, enable and visibility flags,
-// reporting triggered(checked). Not a view. The getters answer from what was
-// set: a user toggling a checkable action does not change isChecked().
+/// A command with a text, an icon and check, enable and visibility flags,
+/// reporting triggered(checked). Not a view. The getters answer from what was
+/// set: a user toggling a checkable action does not change isChecked().
+///
+/// Set the flags before reading them: isChecked() has no defined value
+/// before the first setChecked(). Add actions to a CKyUIMenu, which then owns
+/// them.
 class COMMONUI_EXPORT CKyUIAction : public CKyUIObject
 {
 public:
+    /// An action without text, created with its toolkit action.
     CKyUIAction();
+    /// The toolkit action is no widget and is not released with the action:
+    /// it stays behind, and so does its entry in a menu it was added to.
     ~CKyUIAction() override;
 
+    /// Stores the text and shows it in menus.
     void setText(const QString& text);
+    /// The stored text.
     QString text() const;
+    /// Stores the icon and shows it in menus.
     void setIcon(const QIcon& icon);
-    // Accepted and ignored.
+    /// Accepted and ignored.
     void setResourceIcon(const QString& name);
-    // Kept only: the entry on screen stays as it is.
+    /// Kept only: the entry on screen stays as it is.
     void setEnabled(bool enabled);
+    /// Stores the flag and makes the action checkable.
     void setCheckable(bool checkable);
+    /// Stores the state and shows it.
     void setChecked(bool checked);
+    /// The state last given to setChecked(), whatever the user toggled since.
     bool isChecked() const;
+    /// Stores the flag and shows or hides the entry.
     void setVisible(bool visible);
 
+    /// Emitted when the user triggers the action, with its new checked state
+    /// (which isChecked() does not take over).
     CKyUISignal<void(bool)>& triggered();
 };

@@ -9,53 +9,89 @@ class CKyUIShowEvent;
 class CKyUIHideEvent;
 class CKyUIVerticalLayout;
 
-// The top-level window of a plug-in's user interface. Derive from it, build
-// the content in SetupUI() and run it with exec(). A dialog is not a view and
-// cannot be placed in a layout.
-//
-// While a dialog runs modally the host application is told so: exec() tells
-// it that a dialog starts, accept(), reject(), done(), hide() and
-// setVisible(false) that it ends. A dialog the user closes with Escape or the
-// window's close button ends without telling the host.
+/// The top-level window of a plug-in's user interface. Derive from it, build
+/// the content in SetupUI() and run it with exec(). A dialog is not a view and
+/// cannot be placed in a layout.
+///
+/// While a dialog runs modally the host application is told so: exec() tells
+/// it that a dialog starts, accept(), reject(), done(), hide() and
+/// setVisible(false) that it ends. A dialog the user closes with Escape or the
+/// window's close button ends without telling the host.
+///
+/// **Lifetime.** The views created in SetupUI() and added to GetLayout() are
+/// owned by the root layout, which the dialog deletes with itself; so is the
+/// CKyUIDialogButtonBox, a child of the dialog. The toolkit dialog behind it
+/// stays alive by design when the dialog object is deleted: it is hidden and
+/// no longer referenced. Leak checkers report it; the library's suppression
+/// files name it.
+///
+/// See \ref quickstart for a complete dialog.
 class COMMONUI_EXPORT CKyUIDialog : public CKyUIObject
 {
 public:
+    /// Creates the hidden toolkit dialog; nothing else happens until exec().
     CKyUIDialog();
+    /// Deletes the root layout and its views; the toolkit dialog is left
+    /// behind, hidden.
     ~CKyUIDialog() override;
 
-    // Called by every exec(), after the theme and the root layout are in place:
-    // add views to GetLayout(), connect to their signals and, last, create a
-    // CKyUIDialogButtonBox so that it lands at the bottom.
+    /// Called by every exec(), after the theme and the root layout are in place:
+    /// add views to GetLayout(), connect to their signals and, last, create a
+    /// CKyUIDialogButtonBox so that it lands at the bottom.
     virtual void SetupUI() = 0;
 
-    // Runs the dialog modally and returns its result code. The flag has no
-    // effect. A dialog object is meant to be executed once.
+    /// Runs the dialog modally and returns its result code. The flag has no
+    /// effect. A dialog object is meant to be executed once.
+    ///
+    /// In order: tells the host that a dialog runs, applies the theme, builds
+    /// the root layout, calls SetupUI(), then runs the toolkit's modal loop,
+    /// in which your slots run. Returns 1 after accept(), 0 after reject() or
+    /// when the user closes the window (Escape, close button), the code given
+    /// to done() or setResult() otherwise.
     virtual int exec(bool modal = true);
 
+    /// Event handler for subclasses; does nothing here.
     virtual void showEvent(CKyUIShowEvent* event);
+    /// Event handler for subclasses; does nothing here.
     virtual void hideEvent(CKyUIHideEvent* event);
 
-    // Close with result 1, 0 or the given code. None of them emits a signal.
+    /// Closes with result 1 and tells the host that the dialog ends. Emits no
+    /// signal (neither accepted() nor finished()).
     virtual void accept();
+    /// Closes with result 0 and tells the host that the dialog ends. Emits no
+    /// signal.
     virtual void reject();
+    /// Closes with @p result, which exec() returns, and tells the host that
+    /// the dialog ends. Emits no signal.
     virtual void done(int result);
 
-    // The root layout of the running dialog; null before the first exec().
+    /// The root layout of the running dialog; null before the first exec().
+    /// Add your views to it inside SetupUI(); it owns them.
     CKyUIVerticalLayout* GetLayout();
 
-    // Closes with the current result code.
+    /// Closes with the current result code and tells the host that the dialog
+    /// ends.
     void hide();
+    /// Shows or hides the toolkit dialog. true shows it without set-up and
+    /// without a modal loop; false also closes it as hide() does.
     void setVisible(bool visible);
-    // Stored; reaches the toolkit when the dialog closes.
+    /// Stored; reaches the toolkit when the dialog closes.
     void setResult(int result);
+    /// The stored result code.
     int result() const;
 
+    /// The title last given to setWindowTitle() (not read back from the
+    /// toolkit).
     QString windowTitle() const;
+    /// Stores the title and shows it on the window.
     void setWindowTitle(const QString& title);
 
-    // Raised by client code only; the button box reports them as clicks of OK
-    // and Cancel. finished() is never emitted by the library.
+    /// Raised by client code only; the button box reports them as clicks of OK
+    /// and Cancel. finished() is never emitted by the library.
     CKyUISignal<void()>& accepted();
+    /// Raised by client code only; the button box reports it as a click of
+    /// Cancel and then as its own rejected().
     CKyUISignal<void()>& rejected();
+    /// Never emitted by the library.
     CKyUISignal<void(int)>& finished();
 };

@@ -8,37 +8,58 @@
 class CKyUIDialog;
 class CKyUIPushButton;
 
-// The row of OK, Cancel and Help at the foot of a dialog. Create it last in
-// the dialog's SetupUI(): it joins the end of the dialog's root layout and
-// becomes the dialog's child. It never closes the dialog by itself: connect
-// accepted() and rejected() to the dialog's accept() and reject().
+/// The row of OK, Cancel and Help at the foot of a dialog. Create it last in
+/// the dialog's SetupUI(): it joins the end of the dialog's root layout and
+/// becomes the dialog's child. It never closes the dialog by itself: connect
+/// accepted() and rejected() to the dialog's accept() and reject().
+///
+/// \code
+/// auto* buttons = new CKyUIDialogButtonBox(this);
+/// buttons->accepted().connect([this]() { accept(); });
+/// buttons->rejected().connect([this]() { reject(); });
+/// \endcode
+///
+/// Pressing OK emits clicked() and then accepted(); Cancel clicked() and then
+/// rejected(); Help clicked() only.
+///
+/// \image html buttons-and-text.png "A dialog with its button box at the foot"
 class COMMONUI_EXPORT CKyUIDialogButtonBox : public CKyUIBaseView
 {
 public:
+    /// The box's buttons, with the toolkit's values.
     enum StandardButton : int {
-        Ok = 0x00000400,
-        Cancel = 0x00400000,
-        Help = 0x01000000,
+        Ok = 0x00000400,     ///< The OK button.
+        Cancel = 0x00400000, ///< The Cancel button.
+        Help = 0x01000000,   ///< The Help button.
     };
+    /// A combination of standard buttons.
     typedef QFlags<StandardButton> StandardButtons;
 
-    // Raising the dialog's accepted() (rejected()) is reported as a click of
-    // OK (Cancel) and then as this box's accepted() (rejected()).
+    /// Raising the dialog's accepted() (rejected()) is reported as a click of
+    /// OK (Cancel) and then as this box's accepted() (rejected()).
+    ///
+    /// The dialog must be running its SetupUI(): the box needs its root
+    /// layout. The dialog owns the box and deletes it with itself.
     explicit CKyUIDialogButtonBox(CKyUIDialog* dialog);
     ~CKyUIDialogButtonBox() override;
 
-    // Does nothing: the box always shows OK, Cancel and Help.
+    /// Does nothing: the box always shows OK, Cancel and Help.
     void setStandardButtons(StandardButtons buttons);
-    // The wrapper of one standard button; null for anything else, combinations
-    // of flags included. A press of the toolkit button reaches clients only as
-    // this box's signals, not as the wrapper's clicked().
+    /// The wrapper of one standard button; null for anything else, combinations
+    /// of flags included. A press of the toolkit button reaches clients only as
+    /// this box's signals, not as the wrapper's clicked(). The box owns the
+    /// wrappers.
     CKyUIPushButton* button(StandardButton which) const;
 
+    /// Emitted when OK is pressed, after clicked(), and when client code
+    /// raises the dialog's accepted().
     CKyUISignal<void()>& accepted();
-    // Carries the Help wrapper whichever button was pressed.
+    /// Carries the Help wrapper whichever button was pressed.
     CKyUISignal<void(CKyUIPushButton*)>& clicked();
-    // Never emitted.
+    /// Never emitted.
     CKyUISignal<void()>& helpRequest();
+    /// Emitted when Cancel is pressed, after clicked(), and when client code
+    /// raises the dialog's rejected().
     CKyUISignal<void()>& rejected();
 };
 

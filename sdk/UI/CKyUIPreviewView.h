@@ -2,10 +2,13 @@
 
 #include "UI/CKyUIImageView.h"
 
-// An image view meant for previews.
+/// An image view meant for previews; it behaves as a CKyUIImageView.
+///
+/// \image html containers.png "A preview view's picture among the containers"
 class COMMONUI_EXPORT CKyUIPreviewView : public CKyUIImageView
 {
 public:
+    /// A preview view without a widget.
     CKyUIPreviewView();
     ~CKyUIPreviewView() override;
 };

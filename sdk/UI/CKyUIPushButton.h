@@ -6,32 +6,49 @@
 #include <QtCore/QString>
 #include <QtGui/QIcon>
 
-// A push button with a text and an optional icon. Alignment and bold text are
-// written into the button's own style sheet, on top of the dialog's theme.
+/// A push button with a text and an optional icon. Alignment and bold text are
+/// written into the button's own style sheet, on top of the dialog's theme.
+///
+/// Reports clicks through clicked(), always with `true`. Every such button
+/// becomes the dialog's default button while it has the focus; a text edit
+/// keeps Return and Enter to itself, so they never press it from there.
+///
+/// \image html buttons-and-text.png "Push buttons, labels, text edits and a text view"
 class COMMONUI_EXPORT CKyUIPushButton : public CKyUIBaseView
 {
 public:
+    /// Where setTextAlignment() puts the text.
     enum TextAlignment : int {
-        Left = 0,
-        Right = 1,
-        Center = 2,
+        Left = 0,   ///< Against the left edge.
+        Right = 1,  ///< Against the right edge.
+        Center = 2, ///< Centred.
     };
 
+    /// A button with no text, created with its widget.
     CKyUIPushButton();
     ~CKyUIPushButton() override;
 
+    /// Stores the text and shows it.
     void setText(const QString& text);
+    /// The stored text (not read back from the widget).
     QString text() const;
+    /// Stores the icon and shows it beside the text.
     void setIcon(const QIcon& icon);
-    // Does nothing: the path is neither stored nor loaded. Use setIcon.
+    /// Does nothing: the path is neither stored nor loaded. Use setIcon.
     void setResourceIcon(const QString& path);
 
-    // Any other value removes the alignment from the sheet.
+    /// Writes the alignment into the button's style sheet, replacing an
+    /// earlier one. Any other value removes the alignment from the sheet.
     void setTextAlignment(TextAlignment alignment);
+    /// Writes bold or normal weight into the button's style sheet, replacing
+    /// an earlier keyword weight (a numeric weight stays, ahead of it).
     void setBoldText(bool bold);
+    /// Sets the widget's tool tip.
     void setToolTip(const QString& toolTip);
+    /// Makes the button checkable; clicked() still carries true.
     void setCheckable(bool checkable);
 
-    // Always carries true, whether the button is checkable or checked.
+    /// Emitted when the user clicks the button. Always carries true, whether
+    /// the button is checkable or checked.
     CKyUISignal<void(bool)>& clicked();
 };

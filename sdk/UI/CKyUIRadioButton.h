@@ -3,23 +3,35 @@
 #include "UI/CKyUIBaseView.h"
 #include "UI/CKyUISignal.h"
 
-// A radio button driven from the program's side: its stored state and its
-// signals follow setChecked(), not the user's clicks. Buttons placed in the
-// same group box exclude each other on screen.
+/// A radio button driven from the program's side: its stored state and its
+/// signals follow setChecked(), not the user's clicks. Buttons placed in the
+/// same group box exclude each other on screen.
+///
+/// Checking one button unchecks the others on screen, but their isChecked()
+/// stays as the program last set it; a user's click changes only what the
+/// widgets show. Add buttons to a group box through a CKyUIRadioGroup.
+///
+/// \image html choices.png "Radio buttons in group boxes, among the other choices"
 class COMMONUI_EXPORT CKyUIRadioButton : public CKyUIBaseView
 {
 public:
+    /// An unchecked button without text, created with its widget.
     CKyUIRadioButton();
     ~CKyUIRadioButton() override;
 
+    /// Stores the text and shows it.
     void setText(const QString& text);
-    // The stored text itself, so a later setText shows through it.
+    /// The stored text itself, so a later setText shows through it.
     const QString& text() const;
-    // Always reaches the widget; emits toggled only when the state changes.
+    /// Always reaches the widget; emits toggled only when the state changes.
     void setChecked(bool checked);
+    /// The state last set by the program.
     bool isChecked() const;
 
+    /// Offered for connection; never emitted by the library.
     CKyUISignal<void()>& released();
+    /// Offered for connection; never emitted by the library.
     CKyUISignal<void()>& clicked();
+    /// Emitted by setChecked() with the new state when it changes.
     CKyUISignal<void(bool)>& toggled();
 };

@@ -2,20 +2,27 @@
 
 #include "UI/CKyUIBaseView.h"
 
-// Shows one child view, added with addView, inside a scrolling area that
-// resizes the child with itself. A later addView replaces the shown child.
+/// Shows one child view, added with addView, inside a scrolling area that
+/// resizes the child with itself. A later addView replaces the shown child.
+///
+/// \image html containers.png "A scrolled area among the containers"
 class COMMONUI_EXPORT CKyUIScrollableArea : public CKyUIBaseView
 {
 public:
+    /// An empty area.
     CKyUIScrollableArea();
     ~CKyUIScrollableArea() override;
 
-    // Lets pending layout work finish, then scrolls the view into sight.
+    /// Lets pending layout work finish, then scrolls the view into sight.
+    /// Pending events are processed inside this call, so slots may run in it.
     void scrollTo(CKyUIBaseView* view);
 
-    // The flags are only kept: the scroll bars keep the toolkit's own policy.
+    /// The flags are only kept: the scroll bars keep the toolkit's own policy.
     void setHorizontalScrollingEnabled(bool enabled);
+    /// The stored flag; false at first.
     bool horizontalScrollingEnabled() const;
+    /// Only kept, like setHorizontalScrollingEnabled().
     void setVerticalScrollingEnabled(bool enabled);
+    /// The stored flag.
     bool verticalScrollingEnabled() const;
 };

@@ -3,29 +3,42 @@
 #include "UI/CKyUIBaseView.h"
 #include "UI/CKyUISignal.h"
 
-// Shows one of several pages at a time, each under a titled tab. The library
-// keeps the pages, titles and current index; they follow the program's calls
-// only, not the user's clicks on the tabs.
+/// Shows one of several pages at a time, each under a titled tab. The library
+/// keeps the pages, titles and current index; they follow the program's calls
+/// only, not the user's clicks on the tabs.
+///
+/// A user's click on a tab shows that page, but currentIndex() stays and no
+/// signal fires. Pages can only be added.
+///
+/// \image html choices.png "The gallery's pages are tabs of a stacked widget"
 class COMMONUI_EXPORT CKyUIStackedWidget : public CKyUIBaseView
 {
 public:
+    /// A widget without pages; currentIndex() is 0.
     CKyUIStackedWidget();
     ~CKyUIStackedWidget() override;
 
-    // Makes the page a child of this view; the current index stays.
+    /// Makes the page a child of this view; the current index stays.
     void addTab(CKyUIBaseView* view, const QString& title);
-    // The page's position, or the number of pages for a view that is none.
+    /// The page's position, or the number of pages for a view that is none.
     int indexOf(CKyUIBaseView* view) const;
+    /// Changes a tab's title; an index out of range is ignored.
     void setTabText(int index, const QString& text);
 
+    /// The index last set by the program; 0 at first, also without pages.
     int currentIndex() const;
+    /// Shows the page and, when the index changes, emits currentChanged(). An
+    /// index out of range is ignored.
     void setCurrentIndex(int index);
+    /// setCurrentIndex(indexOf(view)); a view that is no page is ignored.
     void setCurrentWidget(CKyUIBaseView* view);
 
+    /// Emitted by setCurrentIndex() with the new index.
     CKyUISignal<void(int)>& currentChanged();
-    // Never emitted by the library.
+    /// Never emitted by the library.
     CKyUISignal<void(int)>& tabCloseRequested();
+    /// Offered for connection; the library does not emit it.
     CKyUISignal<void(int)>& tabBarClicked();
-    // Never emitted by the library.
+    /// Never emitted by the library.
     CKyUISignal<void(int)>& tabBarDoubleClicked();
 };

@@ -5,52 +5,80 @@
 
 #include <QtGui/QTextCursor>
 
-// The single-line text field. Return and Enter only report returnPressed:
-// they never reach the dialog's default button.
+/// The single-line text field. Return and Enter only report returnPressed:
+/// they never reach the dialog's default button.
+///
+/// The text is kept on the library's side and follows every change of the
+/// widget, typed or set; each such change emits textChanged() and then
+/// textEdited(), so textEdited() is not limited to the user's edits.
+///
+/// \image html buttons-and-text.png "Text edits among the push buttons and labels"
 class COMMONUI_EXPORT CKyUITextEdit : public CKyUIBaseView
 {
 public:
-    // Width class of the field: 69, 158, 248 or 336 pixels; any other value
-    // gives 39.
+    /// Width class of the field: 69, 158, 248 or 336 pixels; any other value
+    /// gives 39.
     enum _Size : int {
-        Tiny = 0,
-        Small = 1,
-        Medium = 2,
-        Large = 3,
-        ExtraLarge = 4,
+        Tiny = 0,       ///< 39 pixels.
+        Small = 1,      ///< 69 pixels.
+        Medium = 2,     ///< 158 pixels.
+        Large = 3,      ///< 248 pixels.
+        ExtraLarge = 4, ///< 336 pixels.
     };
 
+    /// An empty field of the given width class, recorded as the view's
+    /// preferable width.
     explicit CKyUITextEdit(_Size size);
     ~CKyUITextEdit() override;
 
-    // A new text emits textChanged, textEdited, textChanged, in this order.
+    /// A new text emits textChanged, textEdited, textChanged, in this order.
+    /// The current text again emits nothing and leaves the widget alone.
     void setText(const QString& text);
+    /// The same as setText().
     void setPlainText(const QString& text);
+    /// The text as last set or reported by the widget.
     QString text() const;
+    /// The same as text().
     QString toPlainText() const;
 
+    /// Stores the placeholder and shows it; an unchanged value does nothing.
     void setPlaceholderText(const QString& text);
+    /// The stored placeholder.
     QString placeholderText() const;
+    /// Stores the input mask and applies it; an unchanged value does nothing.
     void setInputMask(const QString& mask);
+    /// The stored input mask.
     QString inputMask() const;
+    /// Stores the flag and shows or hides the clear button.
     void setClearButtonEnabled(bool enabled);
+    /// The stored flag.
     bool isClearButtonEnabled() const;
 
     using CKyUIBaseView::setFocus;
+    /// Gives the field the keyboard focus.
     void setFocus();
-    // Has no effect.
+    /// Has no effect.
     void setInputType(int type);
 
-    // Accepted and ignored.
+    /// Accepted and ignored.
     void selectAll();
+    /// Accepted and ignored: the text stays. Use setText() with an empty text.
     void clear();
+    /// Accepted and ignored.
     void setReadOnly(bool readOnly);
+    /// Accepted and ignored.
     void moveCursor(QTextCursor::MoveOperation operation,
                     QTextCursor::MoveMode mode = QTextCursor::MoveAnchor);
 
+    /// Emitted with the whole text at every change of the widget's text, and
+    /// once more by setText() after the widget's report.
     CKyUISignal<void(QString)>& textChanged();
+    /// Emitted with the whole text after textChanged() at every change of the
+    /// widget's text, typed or set.
     CKyUISignal<void(QString)>& textEdited();
-    // Never emitted.
+    /// Never emitted.
     CKyUISignal<void()>& editingFinished();
+    /// Emitted once for Return or Enter (the keypad's included), which go no
+    /// further.
     CKyUISignal<void()>& returnPressed();
 };
