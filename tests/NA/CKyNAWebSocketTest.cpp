@@ -8,6 +8,7 @@
 
 #include <QtCore/QPointer>
 #include <QtCore/QStringList>
+#include <QtCore/QTimer>
 #include <QtTest/QSignalSpy>
 #include <QtWebSockets/QWebSocket>
 
@@ -132,4 +133,86 @@ TEST_F(WebSocket, RequestNeedNotOutliveOpenAndSocketGoesAtOnce)
     owned.reset();
     EXPECT_TRUE(toolkit.isNull());
     ASSERT_TRUE(waitUntil([this] { return server.disconnections() == 1; }));
+}
+
+TEST_F(WebSocket, ServerAbortingTheConnectionGivesDisconnected)
+{
+    ASSERT_TRUE(openOnServer());
+    server.sendText(QStringLiteral("before"));
+    ASSERT_TRUE(waitUntil([this] { return recorder.count(QStringLiteral("text")) == 1; }));
+    // No closing handshake: the connection just drops.
+    server.abort();
+    ASSERT_TRUE(waitUntil([this] { return recorder.has(QStringLiteral("disconnected")); }));
+    EXPECT_EQ(recorder.lines.first(), QStringLiteral("connected"));
+    EXPECT_EQ(recorder.count(QStringLiteral("disconnected")), 1);
+}
+
+TEST_F(WebSocket, DeletingAConnectedSocketWhileMessagesFlowReachesNothingFreed)
+{
+    auto owned = std::make_unique<CKyNAWebSocket>(QString(), CKyNAWebSocketProtocol::VersionLatest);
+    Recorder log;
+    RecordSocket(log, *owned);
+    owned->open(CKyNANetworkRequest(server.url()));
+    ASSERT_TRUE(waitUntil([&] { return log.has(QStringLiteral("connected")) && server.peer(); }));
+
+    // The server keeps sending while the socket goes.
+    QTimer flood;
+    QObject::connect(&flood, &QTimer::timeout, [this] {
+        for (int i = 0; i < 50; ++i)
+            server.sendText(QStringLiteral("more"));
+    });
+    flood.start(1);
+    ASSERT_TRUE(waitUntil([&] { return log.count(QStringLiteral("text")) > 100; }));
+
+    QPointer<QObject> toolkit = owned->getHandle();
+    owned.reset();
+    EXPECT_TRUE(toolkit.isNull());
+    const QStringList entries = log.lines;
+    ASSERT_TRUE(waitUntil([this] { return server.disconnections() == 1; }));
+    flood.stop();
+    EXPECT_EQ(log.lines, entries);
+}
+
+// A plug-in may delete the socket from inside one of the socket's own slots:
+// the toolkit socket is then still in the middle of reporting.
+TEST_F(WebSocket, DeletingTheSocketFromItsOwnSlotsReachesNothingFreed)
+{
+    for (const char* slot : {"textMessageReceived", "disconnected", "error"}) {
+        SCOPED_TRACE(slot);
+        const QByteArray which(slot);
+        Recorder log;
+        auto* owned = new CKyNAWebSocket(QString(), CKyNAWebSocketProtocol::VersionLatest);
+        QPointer<QObject> toolkit = owned->getHandle();
+        bool deleted = false;
+        log.on(owned->connected(), "connected");
+        const auto deleteSocket = [owned, &deleted] {
+            bool* const done = &deleted;
+            delete owned;
+            *done = true;
+        };
+        if (which == "textMessageReceived") {
+            owned->textMessageReceived().connect([deleteSocket](const QString&) { deleteSocket(); });
+            log.on(owned->textMessageReceived(), "text"); // after the deleting slot
+        } else if (which == "disconnected") {
+            owned->disconnected().connect(deleteSocket);
+        } else {
+            owned->error().connect([deleteSocket](int) { deleteSocket(); });
+        }
+        owned->open(CKyNANetworkRequest(server.url()));
+        ASSERT_TRUE(waitUntil([&] { return log.has("connected") && server.peer(); }));
+
+        // Several messages in one burst, so that the toolkit still has some to
+        // hand out after the first.
+        for (int i = 0; i < 20; ++i)
+            server.sendText(QStringLiteral("message"));
+        if (which != "textMessageReceived")
+            server.abort();
+        ASSERT_TRUE(waitUntil([&] { return deleted; }));
+        EXPECT_EQ(log.count("text"), 0);
+        // Whatever the toolkit socket still had to do, it does without us.
+        ASSERT_TRUE(waitUntil([&] {
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            return toolkit.isNull();
+        }));
+    }
 }
