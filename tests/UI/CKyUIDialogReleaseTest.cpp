@@ -58,7 +58,11 @@ private:
 TEST(CKyUIDialogReleaseTest, RunsLeaveNoWindowBehindUnlessTheDialogKeepsIt)
 {
     EXPECT_FALSE(CKyUIDialog::defaultReleasesToolkitDialog());
-    EXPECT_FALSE(SampleDialog().releasesToolkitDialog());
+    {
+        SampleDialog madeBefore;
+        EXPECT_FALSE(madeBefore.releasesToolkitDialog());
+        madeBefore.setReleasesToolkitDialog(true);
+    }
     const ReleaseByDefault release;
     RunAndDelete(false); // warm-up
     const int windows = WindowCount();
