@@ -25,7 +25,8 @@ def size(value):
 
 def rows(path):
     with open(path) as f:
-        runs = json.load(f)["benchmarks"]
+        text = f.read()
+    runs = json.loads(text)["benchmarks"] if text.strip() else []
     table = {}
     order = []
     for run in runs:
