@@ -9,6 +9,26 @@ CKyUIDialog::CKyUIDialog()
 
 CKyUIDialog::~CKyUIDialog() = default;
 
+void CKyUIDialog::setReleasesToolkitDialog(bool release)
+{
+    implAs<CKyUIDialogImpl>()->SetReleasesToolkitDialog(release);
+}
+
+bool CKyUIDialog::releasesToolkitDialog() const
+{
+    return implAs<CKyUIDialogImpl>()->ReleasesToolkitDialog();
+}
+
+void CKyUIDialog::setDefaultReleasesToolkitDialog(bool release)
+{
+    CKyUIDialogImpl::SetDefaultReleasesToolkitDialog(release);
+}
+
+bool CKyUIDialog::defaultReleasesToolkitDialog()
+{
+    return CKyUIDialogImpl::DefaultReleasesToolkitDialog();
+}
+
 int CKyUIDialog::exec(bool modal)
 {
     return implAs<CKyUIDialogImpl>()->Exec(modal);

@@ -50,7 +50,10 @@ def load(paths):
 
     for path in paths:
         with open(path) as f:
-            runs = json.load(f)["benchmarks"]
+            text = f.read()
+        if not text.strip():
+            continue  # a filter that matched nothing in that program
+        runs = json.loads(text)["benchmarks"]
         runs = [r for r in runs if r.get("run_type", "iteration") == "iteration"]
         # Repetitions may run interleaved; list the cases in their programs' order.
         runs.sort(key=lambda r: (r.get("family_index", 0), r.get("per_family_instance_index", 0)))

@@ -4,10 +4,16 @@
 
 #include "KyHostKernel.h"
 
+namespace
+{
+bool g_defaultReleasesToolkitDialog = false;
+} // namespace
+
 CKyUIDialogImpl::CKyUIDialogImpl(CKyUIDialog* owner)
     : CKyUIObjectImpl(owner)
     , m_dialog(owner)
     , m_windowTitle(QString())
+    , m_releasesToolkitDialog(g_defaultReleasesToolkitDialog)
     , accepted(owner)
     , rejected(owner)
     , finished(owner)
@@ -41,11 +47,28 @@ void CKyUIDialogImpl::NotifyHost(bool running)
         active->host->SetModalDialogRunning(running);
 }
 
+void CKyUIDialogImpl::SetDefaultReleasesToolkitDialog(bool release)
+{
+    g_defaultReleasesToolkitDialog = release;
+}
+
+bool CKyUIDialogImpl::DefaultReleasesToolkitDialog()
+{
+    return g_defaultReleasesToolkitDialog;
+}
+
 int CKyUIDialogImpl::Exec(bool modal)
 {
+    // SetupUI() and the slots of the run may delete the dialog.
+    const Lifetime lifetime = GetLifetime();
     NotifyHost(true);
     SetupUIImpl(nullptr);
-    m_result = ExecImpl(modal);
+    if (!lifetime.Alive())
+        return 0;
+    const int result = ExecImpl(modal);
+    if (!lifetime.Alive())
+        return result;
+    m_result = result;
     return m_result;
 }
 

@@ -33,6 +33,10 @@ public:
     void SetWindowTitle(const QString& title);
     const QString& WindowTitle() const { return m_windowTitle; }
     CKyUIVerticalLayout* GetLayout() const { return m_rootLayout; }
+    void SetReleasesToolkitDialog(bool release) { m_releasesToolkitDialog = release; }
+    bool ReleasesToolkitDialog() const { return m_releasesToolkitDialog; }
+    static void SetDefaultReleasesToolkitDialog(bool release);
+    static bool DefaultReleasesToolkitDialog();
 
     // No toolkit signal is connected to these; client code may call them.
     void OnAccepted();
@@ -42,6 +46,7 @@ public:
 
     // Toolkit steps; each does nothing unless the handle is a QDialog.
     void CreateFrontendDialogImpl();
+    // Forgets the QDialog, or releases it when asked to.
     void DestroyFrontendDialogImpl();
     // The argument is not used.
     void SetupUIImpl(QObject* parent);
@@ -61,6 +66,10 @@ private:
     CKyUIVerticalLayout* m_rootLayout = nullptr; // owned
     QString m_windowTitle;
     int m_result = 0;
+    bool m_releasesToolkitDialog;
+    // Points into a running ExecImpl: set there when the dialog object goes
+    // during the run and the QDialog is to be deleted once the run is over.
+    bool* m_releaseAfterRun = nullptr;
 
 public:
     CKyUISignal<void()> accepted;

@@ -23,7 +23,10 @@ class CKyUIVerticalLayout;
 /// CKyUIDialogButtonBox, a child of the dialog. The toolkit dialog behind it
 /// stays alive by design when the dialog object is deleted: it is hidden and
 /// no longer referenced. Leak checkers report it; the library's suppression
-/// files name it.
+/// files name it. A host that opens dialogs thousands of times turns on
+/// setReleasesToolkitDialog() (or setDefaultReleasesToolkitDialog() once for
+/// every dialog made afterwards), and the toolkit dialog then goes with the
+/// dialog object.
 ///
 /// See \ref quickstart for a complete dialog.
 class COMMONUI_EXPORT CKyUIDialog : public CKyUIObject
@@ -32,8 +35,30 @@ public:
     /// Creates the hidden toolkit dialog; nothing else happens until exec().
     CKyUIDialog();
     /// Deletes the root layout and its views; the toolkit dialog is left
-    /// behind, hidden.
+    /// behind, hidden, unless releasesToolkitDialog() is on.
     ~CKyUIDialog() override;
+
+    /// Whether deleting this dialog object also deletes its toolkit dialog,
+    /// with the layouts and widgets still inside it. Off by default, which
+    /// keeps the toolkit dialog alive after the dialog object; a new dialog
+    /// takes defaultReleasesToolkitDialog(). Only the value at deletion counts.
+    ///
+    /// When on, the toolkit dialog goes on the next pass of the event loop,
+    /// after the views' widgets. A dialog deleted while its exec() still runs
+    /// (from one of its own slots, or from a nested event loop inside the run)
+    /// is hidden once the slots have returned, which ends the run: exec()
+    /// returns the toolkit's current result code, and the toolkit dialog is
+    /// deleted as exec() returns. The host is not told that the dialog ends,
+    /// as when the user closes it.
+    void setReleasesToolkitDialog(bool release);
+    /// Whether deleting this dialog object deletes its toolkit dialog too.
+    bool releasesToolkitDialog() const;
+    /// The value of releasesToolkitDialog() that dialogs created from now on
+    /// start with, for the whole library; false unless set. Dialogs that exist
+    /// already keep theirs.
+    static void setDefaultReleasesToolkitDialog(bool release);
+    /// The value new dialogs take for releasesToolkitDialog().
+    static bool defaultReleasesToolkitDialog();
 
     /// Called by every exec(), after the theme and the root layout are in place:
     /// add views to GetLayout(), connect to their signals and, last, create a

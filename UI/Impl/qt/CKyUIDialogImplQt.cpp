@@ -4,6 +4,8 @@
 #include "UI/CKyUIStyle.h"
 #include "UI/CKyUIVerticalLayout.h"
 
+#include <QtCore/QEvent>
+#include <QtCore/QPointer>
 #include <QtWidgets/QDialog>
 #include <QtWidgets/QVBoxLayout>
 
@@ -13,6 +15,25 @@ QDialog* DialogOf(const CKyUIObject* owner)
 {
     return qobject_cast<QDialog*>(owner->getHandle());
 }
+
+// Hides its parent dialog when its own deferred deletion comes up. Posted
+// after the views' widgets, it comes after them: the frontends, whose
+// implementations are gone, never see the window hide, and a nested event
+// loop does not run it before the loop it was posted from allows.
+class HideOnDeferredDelete : public QObject
+{
+public:
+    using QObject::QObject;
+
+    bool event(QEvent* event) override
+    {
+        if (event->type() == QEvent::DeferredDelete) {
+            if (auto* dialog = qobject_cast<QWidget*>(parent()))
+                dialog->hide();
+        }
+        return QObject::event(event);
+    }
+};
 } // namespace
 
 void CKyUIDialogImpl::CreateFrontendDialogImpl()
@@ -22,17 +43,31 @@ void CKyUIDialogImpl::CreateFrontendDialogImpl()
 
 void CKyUIDialogImpl::DestroyFrontendDialogImpl()
 {
-    // The QDialog is deliberately not deleted, only forgotten: a dialog is no
-    // view, so nothing releases its widget, and the hidden window stays behind
-    // without an owner. It still owns the box layout and the root layout's
-    // group box, so their handles are dropped before the root layout goes.
+    // By default the QDialog is deliberately not deleted, only forgotten: a
+    // dialog is no view, so nothing releases its widget, and the hidden window
+    // stays behind without an owner. It owns the box layout and the root
+    // layout's group box, so their handles are dropped before the root layout
+    // goes.
+    QDialog* released = m_releasesToolkitDialog ? DialogOf(owner()) : nullptr;
     owner()->setHandle(nullptr);
-    if (!m_rootLayout)
+    if (m_rootLayout) {
+        m_rootLayout->setHandle(nullptr);
+        m_boxLayout = nullptr;
+        delete m_rootLayout;
+        m_rootLayout = nullptr;
+    }
+    if (!released)
         return;
-    m_rootLayout->setHandle(nullptr);
-    m_boxLayout = nullptr;
-    delete m_rootLayout;
-    m_rootLayout = nullptr;
+    // Later, after the views' widgets: one of them, or the dialog itself, may
+    // be inside an event handler right now.
+    if (!m_releaseAfterRun) {
+        released->deleteLater();
+        return;
+    }
+    // Its exec() is still on the stack: end the run, and let ExecImpl delete
+    // the dialog once the run's loop, and every loop inside it, has returned.
+    *m_releaseAfterRun = true;
+    (new HideOnDeferredDelete(released))->deleteLater();
 }
 
 void CKyUIDialogImpl::SetupUIImpl(QObject*)
@@ -64,7 +99,18 @@ void CKyUIDialogImpl::SetupUIImpl(QObject*)
 int CKyUIDialogImpl::ExecImpl(bool)
 {
     QDialog* dialog = DialogOf(owner());
-    return dialog ? dialog->exec() : m_result;
+    if (!dialog)
+        return m_result;
+    bool releaseAfterRun = false;
+    m_releaseAfterRun = &releaseAfterRun;
+    const Lifetime lifetime = GetLifetime();
+    const QPointer<QDialog> guard(dialog);
+    const int result = dialog->exec();
+    if (lifetime.Alive())
+        m_releaseAfterRun = nullptr;
+    else if (releaseAfterRun)
+        delete guard.data();
+    return result;
 }
 
 void CKyUIDialogImpl::HideImpl()
