@@ -5,7 +5,6 @@
 #include "CommonUI.h"
 #include "UI/CKyUIObject.h"
 #include "UI/CKyUISignal.h"
-#include "UI/slimsig/detail/signal_base"
 #include "support/Recorder.h"
 #include "support/SignalTesting.h"
 
@@ -13,14 +12,10 @@
 #error "the signal headers must leave Qt's keywords defined"
 #endif
 
-#include <gtest/gtest.h>
-
 #include <cstdint>
 #include <functional>
-#include <memory>
 #include <stdexcept>
 #include <string>
-#include <vector>
 
 // The test program sees Qt's keywords; the signal's operation is named emit.
 #pragma push_macro("emit")
@@ -30,7 +25,6 @@
 
 namespace
 {
-
 TEST(SignalBase, IdentifiersCountFromZeroAndAreNeverReused)
 {
     Signal<void()> signal;
@@ -146,7 +140,6 @@ TEST(SignalBaseDeathTest, ExhaustedIdentifiersStopTheProcess)
                                         "This may be a sign you are misusing signals\" failed in "
                                         "prepare_connection at .*signal_base:338");
 }
-
 } // namespace
 
 #pragma pop_macro("emit")
