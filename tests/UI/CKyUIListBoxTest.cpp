@@ -26,7 +26,7 @@ struct CKyUIListBoxTest : ::testing::Test
 } // namespace
 
 // The model is kept, the widget stays empty; values and flags are taken only
-// in range.
+// in range. Nothing here is announced.
 TEST_F(CKyUIListBoxTest, ModelIsKeptAndTheWidgetStaysEmpty)
 {
     auto* widget = qobject_cast<QListWidget*>(list.getHandle());
@@ -55,10 +55,8 @@ TEST_F(CKyUIListBoxTest, ModelIsKeptAndTheWidgetStaysEmpty)
     EXPECT_FALSE(list.isItemSelected(5));
     EXPECT_EQ(QList<bool>({list.isItemSelected(0), list.isItemSelected(1), list.isItemSelected(4)}),
               QList<bool>({false, true, false}));
-}
 
-TEST_F(CKyUIListBoxTest, SelectionQueriesAndEditsThatDoNothing)
-{
+    // Selection queries and edits that do nothing.
     list.setItemSelected(3, true);
     EXPECT_EQ(list.currentRow(), 0);
     EXPECT_TRUE(list.selectedItems().isEmpty());

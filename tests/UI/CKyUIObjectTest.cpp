@@ -18,6 +18,7 @@ struct RecordingImpl : CKyUIObjectImpl
     QString name;
 };
 
+// An object with an implementation, as the library's own objects have.
 struct RecordingObject : CKyUIObject
 {
     RecordingObject(const QString& name, CKyUIObject* parent = nullptr)
@@ -26,15 +27,6 @@ struct RecordingObject : CKyUIObject
         impl->name = name;
         setImpl(impl);
         setParent(parent);
-    }
-};
-
-struct QtBackedObject : CKyUIObject
-{
-    explicit QtBackedObject(QObject* handle)
-    {
-        setImpl(new CKyUIObjectImpl(this));
-        setHandle(handle);
     }
 };
 } // namespace
@@ -85,7 +77,8 @@ TEST(CKyUIObjectTest, NameAndDeclaredPropertiesReachTheHandle)
 {
     auto* handle = new QObject;
     {
-        QtBackedObject object(handle);
+        RecordingObject object("object");
+        object.setHandle(handle);
         EXPECT_FALSE(object.property("objectName").isValid());
         EXPECT_TRUE(object.setProperty("objectName", QStringLiteral("declared")));
         EXPECT_EQ(object.property("objectName").toString(), "declared");
@@ -117,7 +110,7 @@ TEST(CKyUIObjectTest, ObjectsWithoutImplementationOrHandleStaySilent)
     EXPECT_FALSE(bare.setProperty(nullptr, 1));
     EXPECT_FALSE(bare.property(nullptr).isValid());
 
-    QtBackedObject handleless(nullptr);
+    RecordingObject handleless("handleless");
     handleless.setObjectName("still stored");
     EXPECT_EQ(handleless.objectName(), "still stored");
     EXPECT_FALSE(handleless.setProperty("objectName", 1));

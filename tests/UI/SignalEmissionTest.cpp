@@ -50,7 +50,7 @@ TEST(SignalEmission, ARunningSlotKeepsItsStateWhileItsConnectsMoveTheArray)
 // Records how a value reached a slot: the number of copies along its way.
 struct Traced
 {
-    static int copies;
+    static inline int copies = 0;
     int copiesOnTheWay = 0;
 
     Traced() = default;
@@ -59,13 +59,10 @@ struct Traced
     {
         ++copies;
     }
-    Traced(Traced&& other) noexcept
-        : copiesOnTheWay(other.copiesOnTheWay)
-    {}
+    Traced(Traced&&) noexcept = default;
     Traced& operator=(const Traced&) = delete;
     Traced& operator=(Traced&&) = delete;
 };
-int Traced::copies = 0;
 
 // Every slot but the last gets a copy, the last the moved value; a const
 // reference reaches every slot as the same object.
