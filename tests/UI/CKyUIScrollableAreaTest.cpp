@@ -10,26 +10,9 @@
 #include <QtWidgets/QScrollArea>
 #include <QtWidgets/QScrollBar>
 
-namespace
-{
 const auto AreaOf = [](const CKyUIScrollableArea& area) {
     return qobject_cast<QScrollArea*>(area.getHandle());
 };
-
-// Notes the scroll position at the moment a posted event reaches it.
-struct PostedEventProbe : QObject
-{
-    bool event(QEvent* event) override
-    {
-        if (event->type() != QEvent::User)
-            return QObject::event(event);
-        positionWhenReceived = bar->value();
-        return true;
-    }
-    QScrollBar* bar = nullptr;
-    int positionWhenReceived = -1;
-};
-} // namespace
 
 // A scroll area under the older name; the scrolling flags are only kept.
 TEST(CKyUIScrollableAreaTest, CreatesAScrollAreaAndOnlyKeepsTheFlags)
@@ -101,11 +84,11 @@ TEST(CKyUIScrollableAreaTest, ScrollToBringsTheLastViewOfALongColumnIntoSight)
     scrollArea->resize(200, 150);
     scrollArea->show();
     // Left pending until scrollTo runs the event loop.
-    PostedEventProbe probe;
-    probe.bar = scrollArea->verticalScrollBar();
-    QCoreApplication::postEvent(&probe, new QEvent(QEvent::User));
+    int positionThen = -1;
+    QMetaObject::invokeMethod(
+        &notAWidget, [&] { positionThen = scrollArea->verticalScrollBar()->value(); }, Qt::QueuedConnection);
     area.scrollTo(last);
-    EXPECT_EQ(probe.positionWhenReceived, 0);
+    EXPECT_EQ(positionThen, 0);
     auto* lastWidget = static_cast<QWidget*>(last->getHandle());
     const QRect inViewport(lastWidget->mapTo(scrollArea->viewport(), QPoint(0, 0)), lastWidget->size());
     EXPECT_GT(scrollArea->verticalScrollBar()->value(), 0);
