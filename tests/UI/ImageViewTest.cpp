@@ -28,13 +28,11 @@ template <class Base> struct FillingView : Base
     std::vector<QPainter*> painters;
 };
 
-bool AllPixelsAre(const QImage& image, const QColor& expected)
+bool AllPixelsAre(const QImage& image, const QColor& colour)
 {
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            if (image.pixel(x, y) != expected.rgba())
-                return false;
-    return true;
+    QImage expected(image.size(), image.format());
+    expected.fill(colour);
+    return image == expected;
 }
 } // namespace
 

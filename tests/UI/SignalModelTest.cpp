@@ -82,7 +82,6 @@ struct ModelTarget
         }
         return keys;
     }
-    std::string problem() const { return {}; }
 
     std::vector<bool> connected;
 };
