@@ -28,7 +28,7 @@ namespace
 // A capture whose copy fails on demand.
 struct CopyMayFail
 {
-    static bool fail;
+    static inline bool fail = false;
     CopyMayFail() = default;
     CopyMayFail(const CopyMayFail&)
     {
@@ -37,7 +37,6 @@ struct CopyMayFail
     }
     CopyMayFail& operator=(const CopyMayFail&) = default;
 };
-bool CopyMayFail::fail = false;
 
 TEST(SignalBase, ConnectThatCannotCopyARunningSlotFailsAndLosesNothing)
 {
