@@ -201,35 +201,27 @@ public:
         note("call", key, depth);
         const std::vector<Step> program = m_programs[key];
         for (const Step& step : program) {
-            switch (step.action) {
-            case Action::DisconnectViaConnection:
-            case Action::DisconnectById:
-                m_target.disconnect(step.key, step.action == Action::DisconnectViaConnection);
-                break;
-            case Action::DisconnectAll:
+            const Action action = step.action;
+            if (action == Action::DisconnectViaConnection || action == Action::DisconnectById) {
+                m_target.disconnect(step.key, action == Action::DisconnectViaConnection);
+            } else if (action == Action::DisconnectAll) {
                 m_target.disconnectAll();
-                break;
-            case Action::Connect:
+            } else if (action == Action::Connect) {
                 connect();
-                break;
-            case Action::Emit:
-            case Action::EmitCatching:
-                if (depth + 1 >= maxDepth || m_nestedBudget == 0)
-                    break;
+            } else if (action == Action::Throw) {
+                m_running.pop_back();
+                throw SlotError{key};
+            } else if (depth + 1 < maxDepth && m_nestedBudget > 0) { // an emission, within bounds
                 --m_nestedBudget;
                 try {
                     m_target.emit(depth + 1, *this);
                 } catch (const SlotError& error) {
-                    if (step.action == Action::Emit)
+                    if (action == Action::Emit)
                         throw;
                     note("caught", error.key, depth);
                     m_running.resize(static_cast<std::size_t>(depth) + 1);
                 }
                 m_target.afterEmission(depth + 1);
-                break;
-            case Action::Throw:
-                m_running.pop_back();
-                throw SlotError{key};
             }
         }
     }

@@ -257,39 +257,31 @@ TEST(StyleSheetRewriting, AnySheetAndValueKeepsEachRulesDeclarationLast)
             const bool bold = between(0, 1);
             const QString before = widget->styleSheet();
             QString declaration;
-            switch (between(0, 4)) {
-            case 0:
+            const int rule = between(0, 4);
+            if (rule == 0) {
                 view.setBorderWidth(w);
                 declaration = QStringLiteral("border-style:solid;border-width:%1px;").arg(double(w));
-                break;
-            case 1: {
+            } else if (rule == 1) {
                 view.setBorderColor(n, 0, 255);
                 QColor color;
                 color.setRgb(n, 0, 255); // out of range: the toolkit's invalid colour
                 declaration = QStringLiteral("border-color: %1;").arg(color.name());
-                break;
-            }
-            case 2: {
+            } else if (rule == 2) {
                 const QColor color(QRgb(unsigned(n) & 0xffffffu));
                 view.setPalette(PaletteWith(QPalette::Base, color));
                 declaration = QStringLiteral("background-color: %1;").arg(color.name());
-                break;
-            }
-            case 3:
+            } else if (rule == 3) {
                 onLabel ? label.setBoldText(bold) : button.setBoldText(bold);
                 declaration =
                     bold ? QStringLiteral("font-weight: bold;") : QStringLiteral("font-weight: normal;");
-                break;
-            default:
-                if (onLabel) {
-                    label.setFontSize(n);
-                    declaration = QStringLiteral("font-size:%1px;").arg(n);
-                } else {
-                    static const char* const names[] = {"left", "right", "center"};
-                    const int alignment = between(0, 2);
-                    button.setTextAlignment(CKyUIPushButton::TextAlignment(alignment));
-                    declaration = QStringLiteral("text-align:%1;").arg(QLatin1String(names[alignment]));
-                }
+            } else if (onLabel) {
+                label.setFontSize(n);
+                declaration = QStringLiteral("font-size:%1px;").arg(n);
+            } else {
+                static const char* const names[] = {"left", "right", "center"};
+                const int alignment = between(0, 2);
+                button.setTextAlignment(CKyUIPushButton::TextAlignment(alignment));
+                declaration = QStringLiteral("text-align:%1;").arg(QLatin1String(names[alignment]));
             }
             ASSERT_TRUE(DeclarationStandsLast(before, widget->styleSheet(), declaration))
                 << "round " << round << ", sheet before: " << before.left(200).toStdString();
