@@ -76,10 +76,9 @@ struct ModelTarget
     std::vector<int> connectedKeys() const
     {
         std::vector<int> keys;
-        for (int key = 0; key < static_cast<int>(connected.size()); ++key) {
+        for (int key = 0; key < static_cast<int>(connected.size()); ++key)
             if (connected[key])
                 keys.push_back(key);
-        }
         return keys;
     }
 
@@ -140,14 +139,12 @@ struct SignalTarget
             fail("offset left behind");
         if (signal.pending_size() != signal.slot_count())
             fail("not compacted");
-        for (const auto& slot : signal.pending_slots()) {
+        for (const auto& slot : signal.pending_slots())
             if (!slot.connected || slot.running)
                 fail("stale flags on slot " + std::to_string(slot.id));
-        }
-        for (std::size_t key = 0; key < connections.size(); ++key) {
+        for (std::size_t key = 0; key < connections.size(); ++key)
             if (connections[key].connected() != signal.connected(key))
                 fail("connection " + std::to_string(key) + " disagrees with its signal");
-        }
     }
 
     // At rest the array itself lists the connected slots in connection order.
