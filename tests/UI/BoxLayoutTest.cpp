@@ -11,42 +11,28 @@
 #include <QtWidgets/QGroupBox>
 #include <QtWidgets/QLabel>
 
-namespace
-{
-QGroupBox* BoxOf(const CKyUIBaseView& layout)
-{
-    return qobject_cast<QGroupBox*>(layout.getHandle());
-}
+#include <memory>
 
-QBoxLayout* LayoutOf(const CKyUIBaseView& layout)
-{
+const auto BoxOf = [](const CKyUIBaseView& layout) { return qobject_cast<QGroupBox*>(layout.getHandle()); };
+const auto LayoutOf = [](const CKyUIBaseView& layout) {
     return qobject_cast<QBoxLayout*>(BoxOf(layout)->layout());
-}
-
-QWidget* WidgetOf(const CKyUIBaseView* view)
-{
-    return qobject_cast<QWidget*>(view->getHandle());
-}
-
-HandleView* NewLabelView(QSizePolicy::Policy vertical = QSizePolicy::Expanding)
-{
+};
+const auto WidgetOf = [](const CKyUIBaseView* view) { return qobject_cast<QWidget*>(view->getHandle()); };
+const auto NewLabelView = [] {
     auto* label = new QLabel("child");
-    label->setSizePolicy(QSizePolicy::Expanding, vertical);
+    label->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     return new HandleView(label);
-}
-} // namespace
+};
 
+// Borderless boxes without margins; the title is kept but not shown.
 TEST(BoxLayoutTest, CreationGivesBorderlessBoxesWithoutMargins)
 {
     CKyUIHorizontalLayout row;
     CKyUIVerticalLayout column;
-
     EXPECT_EQ(BoxOf(row)->styleSheet(), "QGroupBox{ border: none; padding: 0px; }");
     EXPECT_EQ(BoxOf(column)->styleSheet(), "QGroupBox { border: none; padding: 0px; }");
     EXPECT_EQ(LayoutOf(row)->direction(), QBoxLayout::LeftToRight);
     EXPECT_EQ(LayoutOf(column)->direction(), QBoxLayout::TopToBottom);
-    EXPECT_TRUE(BoxOf(row)->title().isEmpty());
-
     EXPECT_EQ(LayoutOf(row)->contentsMargins(), QMargins(0, 0, 0, 0));
     row.UseMargin(true);
     EXPECT_EQ(LayoutOf(row)->contentsMargins(), QMargins(5, 5, 5, 5));
@@ -56,27 +42,51 @@ TEST(BoxLayoutTest, CreationGivesBorderlessBoxesWithoutMargins)
     EXPECT_EQ(LayoutOf(column)->contentsMargins(), QMargins(1, 2, 3, 4));
     column.setSpacing(9);
     EXPECT_EQ(LayoutOf(column)->spacing(), 9);
+    row.setTitle("Options");
+    EXPECT_EQ(static_cast<CKyUIBoxLayoutImpl*>(row.impl())->Title(), "Options");
+    EXPECT_TRUE(BoxOf(row)->title().isEmpty());
 }
 
-TEST(BoxLayoutTest, StretchIsTruncatedAndPolicyFixedPerDirection)
+// Stretch is truncated and the policy fixed per direction. Removal leaves
+// the widget in the row but not in the column; a radio group joins the tree
+// but not the toolkit layout, and its removal must not take the stretch.
+TEST(BoxLayoutTest, StretchPolicyAndRemovalPerDirection)
 {
     CKyUIHorizontalLayout row;
     CKyUIVerticalLayout column;
-    HandleView* inRow = NewLabelView();
-    HandleView* inColumn = NewLabelView();
+    std::unique_ptr<HandleView> inRow(NewLabelView());
+    std::unique_ptr<HandleView> inColumn(NewLabelView());
     HandleView* small = NewLabelView();
-
-    row.addView(inRow, 2.7f);
-    column.addView(inColumn, 1.9f);
+    row.addView(inRow.get(), 2.7f);
+    column.addView(inColumn.get(), 1.9f);
     column.addView(small, 0.9f);
-
     EXPECT_EQ(LayoutOf(row)->stretch(0), 2);
     EXPECT_EQ(LayoutOf(column)->stretch(0), 1);
     EXPECT_EQ(LayoutOf(column)->stretch(1), 0);
-    EXPECT_EQ(WidgetOf(inRow)->sizePolicy(), QSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred));
-    EXPECT_EQ(WidgetOf(inColumn)->sizePolicy(), QSizePolicy(QSizePolicy::Preferred, QSizePolicy::Minimum));
+    EXPECT_EQ(WidgetOf(inRow.get())->sizePolicy(),
+              QSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred));
+    EXPECT_EQ(WidgetOf(inColumn.get())->sizePolicy(),
+              QSizePolicy(QSizePolicy::Preferred, QSizePolicy::Minimum));
     EXPECT_EQ(LayoutOf(column)->indexOf(WidgetOf(small)), 1);
     EXPECT_EQ(LayoutOf(column)->itemAt(1)->alignment(), Qt::Alignment());
+
+    row.removeView(inRow.get());
+    column.removeView(inColumn.get());
+    EXPECT_EQ(inRow->parent(), nullptr);
+    EXPECT_EQ(inColumn->parent(), nullptr);
+    EXPECT_EQ(LayoutOf(row)->indexOf(WidgetOf(inRow.get())), 0);
+    EXPECT_EQ(LayoutOf(column)->indexOf(WidgetOf(inColumn.get())), -1);
+    // The widget keeps the box as its toolkit parent until it goes elsewhere.
+    EXPECT_EQ(WidgetOf(inColumn.get())->parentWidget(), BoxOf(column));
+
+    QButtonGroup buttons;
+    HandleView group(&buttons);
+    LayoutOf(column)->addStretch(1);
+    column.addView(&group, 1);
+    EXPECT_EQ(column.children(), QList<CKyUIObject*>({small, &group}));
+    EXPECT_EQ(LayoutOf(column)->count(), 2);
+    column.removeView(&group);
+    EXPECT_EQ(LayoutOf(column)->count(), 2);
 }
 
 // A position outside the layout is its end; group boxes place alike.
@@ -105,49 +115,4 @@ TEST(BoxLayoutTest, InsertPlacesAtTheIndexOrAtTheEnd)
             EXPECT_EQ(LayoutOf(*layout)->itemAt(i)->widget(), WidgetOf(order[i])) << kind << " " << i;
         EXPECT_EQ(LayoutOf(*layout)->stretch(0), 3);
     }
-}
-
-TEST(BoxLayoutTest, RemovalLeavesTheRowButNotTheColumn)
-{
-    CKyUIHorizontalLayout row;
-    CKyUIVerticalLayout column;
-    std::unique_ptr<HandleView> inRow(NewLabelView());
-    std::unique_ptr<HandleView> inColumn(NewLabelView());
-    row.addView(inRow.get(), 1);
-    column.addView(inColumn.get(), 1);
-
-    row.removeView(inRow.get());
-    column.removeView(inColumn.get());
-
-    EXPECT_EQ(inRow->parent(), nullptr);
-    EXPECT_EQ(inColumn->parent(), nullptr);
-    EXPECT_EQ(LayoutOf(row)->indexOf(WidgetOf(inRow.get())), 0);
-    EXPECT_EQ(LayoutOf(column)->indexOf(WidgetOf(inColumn.get())), -1);
-    // The widget keeps the box as its toolkit parent until it goes elsewhere.
-    EXPECT_EQ(WidgetOf(inColumn.get())->parentWidget(), BoxOf(column));
-}
-
-TEST(BoxLayoutTest, RadioGroupsJoinTheTreeButNotTheToolkitLayout)
-{
-    CKyUIVerticalLayout column;
-    QButtonGroup buttons;
-    auto* group = new HandleView(&buttons);
-    LayoutOf(column)->addStretch(1);
-
-    column.addView(group, 1);
-    EXPECT_EQ(column.children(), QList<CKyUIObject*>({group}));
-    EXPECT_EQ(LayoutOf(column)->count(), 1);
-
-    // Removing a child without a widget must not take the stretch with it.
-    column.removeView(group);
-    EXPECT_EQ(LayoutOf(column)->count(), 1);
-    delete group;
-}
-
-TEST(BoxLayoutTest, TitleIsKeptButNotShown)
-{
-    CKyUIHorizontalLayout row;
-    row.setTitle("Options");
-    EXPECT_EQ(static_cast<CKyUIBoxLayoutImpl*>(row.impl())->Title(), "Options");
-    EXPECT_TRUE(BoxOf(row)->title().isEmpty());
 }

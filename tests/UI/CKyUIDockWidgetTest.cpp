@@ -11,56 +11,38 @@
 namespace
 {
 // Records the event objects its handlers receive.
-class EventRecordingView : public CKyUIBaseView
+struct EventRecordingView : CKyUIBaseView
 {
-public:
     EventRecordingView() { setImpl(new CKyUIBaseViewImpl(this)); }
-
     void showEvent(CKyUIShowEvent* event) override { received.push_back(event); }
     void hideEvent(CKyUIHideEvent* event) override { received.push_back(event); }
-
     std::vector<CKyUIEvent*> received;
 };
-
-CKyUIDockWidgetImpl* ImplOf(CKyUIDockWidget& dock)
-{
-    return static_cast<CKyUIDockWidgetImpl*>(dock.impl());
-}
 } // namespace
 
-TEST(CKyUIDockWidgetTest, CreatesNoWidgetAndKeepsViewAndTitle)
+// The view is held, not adopted; show and hide events reach it as the same
+// objects, and are ignored without a view.
+TEST(CKyUIDockWidgetTest, KeepsViewAndTitleAndHandsEventsOn)
 {
     CKyUIDockWidget dock(Qt::LeftDockWidgetArea);
+    auto* impl = static_cast<CKyUIDockWidgetImpl*>(dock.impl());
     EXPECT_EQ(dock.getHandle(), nullptr);
-    EXPECT_EQ(ImplOf(dock)->GetFrontendClassName(), "QDockWidget");
+    EXPECT_EQ(impl->GetFrontendClassName(), "QDockWidget");
     EXPECT_EQ(dock.widget(), nullptr);
+    CKyUIShowEvent show;
+    CKyUIHideEvent hide;
+    dock.showEvent(&show);
+    dock.hideEvent(&hide);
 
     EventRecordingView view;
     dock.setWidget(&view);
     dock.setTitle("Layers");
     EXPECT_EQ(static_cast<const CKyUIDockWidget&>(dock).widget(), &view);
-    EXPECT_EQ(ImplOf(dock)->Title(), "Layers");
-    // The view is held, not adopted.
+    EXPECT_EQ(impl->Title(), "Layers");
     EXPECT_EQ(view.parent(), nullptr);
-    dock.setWidget(nullptr);
-}
-
-TEST(CKyUIDockWidgetTest, ShowAndHideEventsReachTheViewAsTheSameObjects)
-{
-    CKyUIDockWidget dock(Qt::RightDockWidgetArea);
-    CKyUIShowEvent show;
-    CKyUIHideEvent hide;
-    // Without a view both are ignored.
     dock.showEvent(&show);
     dock.hideEvent(&hide);
-
-    EventRecordingView view;
-    dock.setWidget(&view);
-    dock.showEvent(&show);
-    dock.hideEvent(&hide);
-    ASSERT_EQ(view.received.size(), 2u);
-    EXPECT_EQ(view.received[0], &show);
-    EXPECT_EQ(view.received[1], &hide);
+    EXPECT_EQ(view.received, (std::vector<CKyUIEvent*>{&show, &hide}));
     dock.setWidget(nullptr);
 }
 
@@ -68,7 +50,6 @@ TEST(CKyUIDockWidgetTest, RaiseActsOnlyOnAToolkitDockWidget)
 {
     CKyUIDockWidget dock(Qt::LeftDockWidgetArea);
     dock.raise();
-
     QWidget window;
     auto* toolkitDock = new QDockWidget(&window);
     auto* sibling = new QWidget(&window);

@@ -12,70 +12,49 @@
 #include <QtWidgets/QGroupBox>
 #include <QtWidgets/QLabel>
 
-namespace
-{
-QGroupBox* WidgetOf(const CKyUIGroupBox& box)
-{
-    return qobject_cast<QGroupBox*>(box.getHandle());
-}
-
-QBoxLayout* LayoutOf(const CKyUIGroupBox& box)
-{
+const auto WidgetOf = [](const CKyUIGroupBox& box) { return qobject_cast<QGroupBox*>(box.getHandle()); };
+const auto LayoutOf = [](const CKyUIGroupBox& box) {
     return qobject_cast<QBoxLayout*>(WidgetOf(box)->layout());
-}
-
-HandleView* NewLabelView(const QString& text)
-{
-    auto* label = new QLabel(text);
+};
+const auto NewLabelView = [] {
+    auto* label = new QLabel("child");
     label->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     return new HandleView(label);
-}
-} // namespace
+};
 
-TEST(CKyUIGroupBoxTest, OnlyOrientationOneGivesAColumn)
+// Only orientation one gives a column. Children get a truncated stretch and a
+// minimum height policy; the radio group is a child in the tree, not in the
+// toolkit layout. Removal is not overridden: the widget stays in the row.
+TEST(CKyUIGroupBoxTest, OrientationMarginsTitleAndChildren)
 {
     CKyUIGroupBox row(CKyUIGroupBox::Horizontal, false);
-    CKyUIGroupBox column(CKyUIGroupBox::Vertical, false);
+    CKyUIGroupBox column(CKyUIGroupBox::Vertical, true);
     CKyUIGroupBox other(static_cast<CKyUIGroupBox::Orientation>(7), false);
-
     EXPECT_STREQ(WidgetOf(row)->metaObject()->className(), "CKyUIGroupBoxFrontend");
     EXPECT_EQ(WidgetOf(row)->styleSheet(), "QGroupBox { }");
     EXPECT_EQ(LayoutOf(row)->direction(), QBoxLayout::LeftToRight);
     EXPECT_EQ(LayoutOf(column)->direction(), QBoxLayout::TopToBottom);
     EXPECT_EQ(LayoutOf(other)->direction(), QBoxLayout::LeftToRight);
-}
+    EXPECT_EQ(LayoutOf(row)->contentsMargins(), QMargins(0, 0, 0, 0));
+    EXPECT_EQ(LayoutOf(column)->contentsMargins(), QMargins(5, 5, 5, 5));
+    column.UseMargin(false);
+    EXPECT_EQ(LayoutOf(column)->contentsMargins(), QMargins(0, 0, 0, 0));
+    column.setContentsMargins(1, 2, 3, 4);
+    EXPECT_EQ(LayoutOf(column)->contentsMargins(), QMargins(1, 2, 3, 4));
+    column.setSpacing(7);
+    EXPECT_EQ(LayoutOf(column)->spacing(), 7);
+    column.setTitle("Units");
+    EXPECT_EQ(WidgetOf(column)->title(), "Units");
 
-TEST(CKyUIGroupBoxTest, MarginsSpacingAndTitle)
-{
-    CKyUIGroupBox box(CKyUIGroupBox::Vertical, true);
-    EXPECT_EQ(LayoutOf(box)->contentsMargins(), QMargins(5, 5, 5, 5));
-    box.UseMargin(false);
-    EXPECT_EQ(LayoutOf(box)->contentsMargins(), QMargins(0, 0, 0, 0));
-    box.setContentsMargins(1, 2, 3, 4);
-    EXPECT_EQ(LayoutOf(box)->contentsMargins(), QMargins(1, 2, 3, 4));
-    box.setSpacing(7);
-    EXPECT_EQ(LayoutOf(box)->spacing(), 7);
-    CKyUIGroupBox unmargined(CKyUIGroupBox::Horizontal, false);
-    EXPECT_EQ(LayoutOf(unmargined)->contentsMargins(), QMargins(0, 0, 0, 0));
-
-    box.setTitle("Units");
-    EXPECT_EQ(WidgetOf(box)->title(), "Units");
-}
-
-TEST(CKyUIGroupBoxTest, ChildrenGetTruncatedStretchAndMinimumHeightPolicy)
-{
-    CKyUIGroupBox box(CKyUIGroupBox::Horizontal, false);
-    HandleView* first = NewLabelView("first");
-    HandleView* second = NewLabelView("second");
-    HandleView* front = NewLabelView("front");
+    HandleView* first = NewLabelView();
+    HandleView* second = NewLabelView();
+    HandleView* front = NewLabelView();
     auto* group = new CKyUIRadioGroup;
-
-    box.addView(first, 2.7f);
-    box.addView(second, 0.9f);
-    box.addView(group);
-    box.insertView(front, 0, 1.5f);
-
-    QBoxLayout* layout = LayoutOf(box);
+    row.addView(first, 2.7f);
+    row.addView(second, 0.9f);
+    row.addView(group);
+    row.insertView(front, 0, 1.5f);
+    QBoxLayout* layout = LayoutOf(row);
     ASSERT_EQ(layout->count(), 3);
     EXPECT_EQ(layout->itemAt(0)->widget(), front->getHandle());
     EXPECT_EQ(layout->stretch(0), 1);
@@ -84,11 +63,8 @@ TEST(CKyUIGroupBoxTest, ChildrenGetTruncatedStretchAndMinimumHeightPolicy)
     EXPECT_EQ(layout->itemAt(1)->alignment(), Qt::Alignment());
     EXPECT_EQ(qobject_cast<QWidget*>(first->getHandle())->sizePolicy(),
               QSizePolicy(QSizePolicy::Preferred, QSizePolicy::Minimum));
-    // The radio group is a child in the tree, not in the toolkit layout.
-    EXPECT_EQ(group->parent(), &box);
-
-    // Removal is not overridden: the widget stays in the row.
-    box.removeView(second);
+    EXPECT_EQ(group->parent(), &row);
+    row.removeView(second);
     EXPECT_EQ(layout->indexOf(qobject_cast<QWidget*>(second->getHandle())), 2);
     delete second;
 }
@@ -99,48 +75,37 @@ TEST(CKyUIGroupBoxTest, CollapsingIsStoredAndAnnouncedButHidesNothing)
     CKyUIVerticalLayout parent;
     auto* box = new CKyUIGroupBox(CKyUIGroupBox::Vertical, true);
     parent.addView(box);
-    HandleView* child = NewLabelView("inside");
+    HandleView* child = NewLabelView();
     box->addView(child);
     log.on(box->onCollapsedStateChanged(), "collapsed");
     auto* top = qobject_cast<QWidget*>(parent.getHandle());
     top->show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(top));
-
     box->setCollapsed(false);
-    EXPECT_TRUE(log.lines.isEmpty());
     box->setCollapsed(true);
     box->setCollapsed(true);
     EXPECT_EQ(log.lines, QStringList({"collapsed:true"}));
     EXPECT_TRUE(box->isCollapsed());
     EXPECT_TRUE(WidgetOf(*box)->isVisible());
     EXPECT_TRUE(qobject_cast<QWidget*>(child->getHandle())->isVisible());
-
     box->blockSignals(true);
     box->setCollapsed(false);
     EXPECT_FALSE(box->isCollapsed());
     EXPECT_EQ(log.lines, QStringList({"collapsed:true"}));
 }
 
+// Black can only come from the outline on a white background.
 TEST(CKyUIGroupBoxTest, OutlineIsPaintedJustInsideTheRightAndBottomEdges)
 {
     CKyUIGroupBox box(CKyUIGroupBox::Vertical, true);
-    QGroupBox* widget = WidgetOf(box);
-    // A light background, so that black can only come from the outline.
-    widget->setStyleSheet("QGroupBox { background-color: white; border: none; }");
-    widget->resize(120, 80);
-
-    const QImage image = widget->grab().toImage();
+    WidgetOf(box)->setStyleSheet("QGroupBox { background-color: white; border: none; }");
+    WidgetOf(box)->resize(120, 80);
+    const QImage image = WidgetOf(box)->grab().toImage().convertToFormat(QImage::Format_RGB32);
     ASSERT_EQ(image.size(), QSize(120, 80));
-    const QRgb black = qRgb(0, 0, 0);
-    for (int y : {1, 40, 78}) {
-        EXPECT_EQ(image.pixel(119, y) & 0xffffff, black & 0xffffff) << "right edge at y " << y;
-        EXPECT_EQ(image.pixel(0, y) & 0xffffff, black & 0xffffff) << "left edge at y " << y;
-    }
-    for (int x : {1, 60, 118}) {
-        EXPECT_EQ(image.pixel(x, 79) & 0xffffff, black & 0xffffff) << "bottom edge at x " << x;
-        EXPECT_EQ(image.pixel(x, 0) & 0xffffff, black & 0xffffff) << "top edge at x " << x;
-    }
-    EXPECT_NE(image.pixel(118, 40) & 0xffffff, black & 0xffffff);
-    EXPECT_NE(image.pixel(60, 78) & 0xffffff, black & 0xffffff);
-    EXPECT_NE(image.pixel(60, 40) & 0xffffff, black & 0xffffff);
+    const auto black = [&image](int x, int y) { return image.pixel(x, y) == qRgb(0, 0, 0); };
+    for (int y : {1, 40, 78})
+        EXPECT_TRUE(black(119, y) && black(0, y)) << "left or right edge at y " << y;
+    for (int x : {1, 60, 118})
+        EXPECT_TRUE(black(x, 79) && black(x, 0)) << "top or bottom edge at x " << x;
+    EXPECT_FALSE(black(118, 40) || black(60, 78) || black(60, 40));
 }

@@ -7,20 +7,17 @@
 #include <QtWidgets/QListWidget>
 
 #include <climits>
-#include <vector>
 
 namespace
 {
-class CKyUIListBoxTest : public ::testing::Test
+struct CKyUIListBoxTest : ::testing::Test
 {
-protected:
     void SetUp() override
     {
         for (const char* text : {"alpha", "beta", "Alpha", "beta", "gamma"})
             list.addItem(text);
         emitted.on(list.valueChanged(), "value");
     }
-
     CKyUIListBoxImpl* Impl() { return static_cast<CKyUIListBoxImpl*>(list.impl()); }
 
     CKyUIListBox list;
@@ -28,6 +25,8 @@ protected:
 };
 } // namespace
 
+// The model is kept, the widget stays empty; values and flags are taken only
+// in range. Nothing here is announced.
 TEST_F(CKyUIListBoxTest, ModelIsKeptAndTheWidgetStaysEmpty)
 {
     auto* widget = qobject_cast<QListWidget*>(list.getHandle());
@@ -35,7 +34,6 @@ TEST_F(CKyUIListBoxTest, ModelIsKeptAndTheWidgetStaysEmpty)
     EXPECT_EQ(widget->styleSheet(), "QListWidget { }");
     EXPECT_EQ(widget->count(), 0);
     EXPECT_EQ(list.impl()->GetFrontendClassName(), "QListWidget");
-
     EXPECT_EQ(list.count(), 5);
     EXPECT_EQ(list.item(2), "Alpha");
     EXPECT_EQ(list.row("beta"), 1);
@@ -44,81 +42,43 @@ TEST_F(CKyUIListBoxTest, ModelIsKeptAndTheWidgetStaysEmpty)
     EXPECT_EQ(list.row(""), -1);
     EXPECT_EQ(Impl()->ItemDefs().size(), 5);
     EXPECT_FALSE(list.itemData(0).isValid());
-    EXPECT_FALSE(list.isItemSelected(0));
-}
 
-TEST_F(CKyUIListBoxTest, ValuesAndFlagsOnlyInRange)
-{
     list.setItemData(4, 42);
     list.setItemData(5, 7);
     list.setItemData(-1, 7);
     EXPECT_EQ(list.itemData(4), QVariant(42));
     EXPECT_FALSE(list.itemData(5).isValid());
     EXPECT_FALSE(list.itemData(-1).isValid());
-
     list.setItemSelected(5, true);
     list.setItemSelected(-1, true);
     list.setItemSelected(1, true);
     EXPECT_FALSE(list.isItemSelected(5));
     EXPECT_EQ(QList<bool>({list.isItemSelected(0), list.isItemSelected(1), list.isItemSelected(4)}),
               QList<bool>({false, true, false}));
-}
 
-TEST_F(CKyUIListBoxTest, SelectionQueriesAndEditsThatDoNothing)
-{
+    // Selection queries and edits that do nothing.
     list.setItemSelected(3, true);
     EXPECT_EQ(list.currentRow(), 0);
     EXPECT_TRUE(list.selectedItems().isEmpty());
-
     list.clearSelection();
     EXPECT_TRUE(list.isItemSelected(3));
     list.setItemText(0, "changed");
     EXPECT_EQ(list.item(0), "alpha");
-
     // The reference is the stored text itself.
     list.item(0) = "renamed";
     EXPECT_EQ(list.row("renamed"), 0);
     EXPECT_TRUE(emitted.lines.isEmpty());
 }
 
-TEST_F(CKyUIListBoxTest, ClearEmptiesBothListsAndKeepsCapacity)
+// Clearing keeps the capacity; rows that were valid before, and rows that
+// never were, change nothing afterwards.
+TEST_F(CKyUIListBoxTest, ClearKeepsCapacityAndRowsOutsideTheListChangeNothing)
 {
     list.setItemData(0, "x");
     const int capacity = Impl()->ItemDefs().capacity();
     list.clear();
-    EXPECT_EQ(list.count(), 0);
-    EXPECT_TRUE(Impl()->ItemDefs().isEmpty());
     EXPECT_EQ(Impl()->ItemDefs().capacity(), capacity);
-    EXPECT_FALSE(list.itemData(0).isValid());
     EXPECT_EQ(list.currentRow(), 0);
-
-    list.addItem("fresh");
-    EXPECT_FALSE(list.itemData(0).isValid());
-    EXPECT_FALSE(list.isItemSelected(0));
-    EXPECT_TRUE(emitted.lines.isEmpty());
-}
-
-TEST_F(CKyUIListBoxTest, ItemSelectedReactionTellsWhetherAnyIsSelected)
-{
-    Impl()->OnItemSelected(3, true);
-    Impl()->OnItemSelected(1, true);
-    Impl()->OnItemSelected(3, false);
-    Impl()->OnItemSelected(1, false);
-    // Out of range: nothing changes, the state is still reported.
-    Impl()->OnItemSelected(9, true);
-    EXPECT_EQ(emitted.lines, QStringList({"value:1", "value:1", "value:1", "value:0", "value:0"}));
-    EXPECT_FALSE(list.isItemSelected(1));
-
-    list.blockSignals(true);
-    Impl()->OnItemSelected(0, true);
-    EXPECT_EQ(emitted.lines.size(), 5);
-    EXPECT_TRUE(list.isItemSelected(0));
-}
-
-// Rows that were valid before a clear, and rows that never were.
-TEST_F(CKyUIListBoxTest, RowsOutsideTheListChangeNothing)
-{
-    list.clear();
     for (int row : {-1, 0, 1, 5, INT_MAX, INT_MIN}) {
         SCOPED_TRACE(row);
         list.setItemData(row, 5);
@@ -131,4 +91,26 @@ TEST_F(CKyUIListBoxTest, RowsOutsideTheListChangeNothing)
         EXPECT_FALSE(list.isItemSelected(row));
     }
     EXPECT_EQ(list.count(), 0);
+    EXPECT_TRUE(Impl()->ItemDefs().isEmpty());
+
+    list.addItem("fresh");
+    EXPECT_FALSE(list.itemData(0).isValid());
+    EXPECT_FALSE(list.isItemSelected(0));
+    EXPECT_TRUE(emitted.lines.isEmpty());
+}
+
+// Out of range changes nothing, but the state is still reported.
+TEST_F(CKyUIListBoxTest, ItemSelectedReactionTellsWhetherAnyIsSelected)
+{
+    Impl()->OnItemSelected(3, true);
+    Impl()->OnItemSelected(1, true);
+    Impl()->OnItemSelected(3, false);
+    Impl()->OnItemSelected(1, false);
+    Impl()->OnItemSelected(9, true);
+    EXPECT_EQ(emitted.lines, QStringList({"value:1", "value:1", "value:1", "value:0", "value:0"}));
+    EXPECT_FALSE(list.isItemSelected(1));
+    list.blockSignals(true);
+    Impl()->OnItemSelected(0, true);
+    EXPECT_EQ(emitted.lines.size(), 5);
+    EXPECT_TRUE(list.isItemSelected(0));
 }

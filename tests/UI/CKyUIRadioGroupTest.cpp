@@ -7,24 +7,19 @@
 #include <gtest/gtest.h>
 
 #include <QtCore/QPointer>
-#include <QtCore/QStringList>
 #include <QtTest/QTest>
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QButtonGroup>
 #include <QtWidgets/QGroupBox>
 #include <QtWidgets/QRadioButton>
 
+#include <memory>
+
 namespace
 {
-QRadioButton* WidgetOf(const CKyUIRadioButton* button)
-{
+const auto WidgetOf = [](const CKyUIRadioButton* button) {
     return qobject_cast<QRadioButton*>(button->getHandle());
-}
-
-QBoxLayout* LayoutOf(const CKyUIGroupBox& box)
-{
-    return qobject_cast<QBoxLayout*>(qobject_cast<QGroupBox*>(box.getHandle())->layout());
-}
+};
 
 // A group box holding a group of three buttons, "A", "B" and "C".
 struct Units
@@ -33,12 +28,12 @@ struct Units
     {
         box.addView(group);
         for (const char* text : {"A", "B", "C"}) {
-            auto* button = new CKyUIRadioButton;
-            button->setText(text);
-            group->addRadioButton(button);
-            buttons.append(button);
+            buttons.append(new CKyUIRadioButton);
+            buttons.last()->setText(text);
+            group->addRadioButton(buttons.last());
         }
     }
+    QGroupBox* widget() const { return qobject_cast<QGroupBox*>(box.getHandle()); }
 
     CKyUIGroupBox box{CKyUIGroupBox::Vertical, true};
     CKyUIRadioGroup* group = new CKyUIRadioGroup;
@@ -46,30 +41,42 @@ struct Units
 };
 } // namespace
 
+// The buttons join the box's layout in order, the group owns them, and the
+// box takes group, buttons and the button group with it. A button added
+// again is listed once, at the end; one taken from another group moves.
 TEST(CKyUIRadioGroupTest, ButtonsJoinTheGroupBoxLayoutInOrderAndTheGroupOwnsThem)
 {
-    Units units;
-    QBoxLayout* layout = LayoutOf(units.box);
-
+    auto units = std::make_unique<Units>();
+    auto* layout = qobject_cast<QBoxLayout*>(units->widget()->layout());
     ASSERT_EQ(layout->count(), 3);
     for (int i = 0; i < 3; ++i) {
-        QWidget* widget = WidgetOf(units.buttons.at(i));
+        QWidget* widget = WidgetOf(units->buttons.at(i));
         EXPECT_EQ(layout->itemAt(i)->widget(), widget);
         EXPECT_EQ(layout->stretch(i), 0);
         EXPECT_EQ(widget->sizePolicy(),
                   QSizePolicy(QSizePolicy::MinimumExpanding, QSizePolicy::MinimumExpanding));
-        EXPECT_EQ(units.buttons.at(i)->parent(), units.group);
+        EXPECT_EQ(units->buttons.at(i)->parent(), units->group);
     }
-    EXPECT_EQ(units.box.children(), QList<CKyUIObject*>({units.group}));
-
+    EXPECT_EQ(units->box.children(), QList<CKyUIObject*>({units->group}));
     // The group's own toolkit object is no widget and holds no button.
-    auto* buttonGroup = qobject_cast<QButtonGroup*>(units.group->getHandle());
-    ASSERT_NE(buttonGroup, nullptr);
+    QPointer<QButtonGroup> buttonGroup(qobject_cast<QButtonGroup*>(units->group->getHandle()));
+    ASSERT_FALSE(buttonGroup.isNull());
     EXPECT_TRUE(buttonGroup->buttons().isEmpty());
-
-    units.group->setTitle("Units");
-    EXPECT_TRUE(qobject_cast<QGroupBox*>(units.box.getHandle())->title().isEmpty());
+    units->group->setTitle("Units");
+    EXPECT_TRUE(units->widget()->title().isEmpty());
     EXPECT_EQ(layout->count(), 3);
+
+    CKyUIRadioGroup loose;
+    loose.addRadioButton(nullptr);
+    auto* stray = new CKyUIRadioButton;
+    loose.addRadioButton(stray);
+    units->group->addRadioButton(units->buttons[0]);
+    units->group->addRadioButton(stray);
+    EXPECT_TRUE(loose.children().isEmpty());
+    EXPECT_EQ(units->group->children(),
+              (QList<CKyUIObject*>{units->buttons[1], units->buttons[2], units->buttons[0], stray}));
+    units.reset();
+    EXPECT_TRUE(buttonGroup.isNull());
 }
 
 TEST(CKyUIRadioGroupTest, ExclusionIsShownOnScreenOnlyAndNoClickMovesTheModel)
@@ -80,10 +87,8 @@ TEST(CKyUIRadioGroupTest, ExclusionIsShownOnScreenOnlyAndNoClickMovesTheModel)
         log.on(button->toggled(), button->text()).on(button->clicked(), "clicked");
         log.on(button->released(), "released");
     }
-    auto* box = qobject_cast<QWidget*>(units.box.getHandle());
-    box->show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(box));
-
+    units.widget()->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(units.widget()));
     units.buttons.at(0)->setChecked(true);
     units.buttons.at(1)->setChecked(true);
     EXPECT_FALSE(WidgetOf(units.buttons.at(0))->isChecked());
@@ -98,31 +103,4 @@ TEST(CKyUIRadioGroupTest, ExclusionIsShownOnScreenOnlyAndNoClickMovesTheModel)
     EXPECT_FALSE(units.buttons.at(2)->isChecked());
     EXPECT_TRUE(units.buttons.at(1)->isChecked());
     EXPECT_EQ(log.lines, QStringList({"A:true", "B:true"}));
-}
-
-TEST(CKyUIRadioGroupTest, DestroyingTheBoxTakesGroupButtonsAndTheButtonGroupWithIt)
-{
-    QPointer<QObject> buttonGroup;
-    {
-        Units units;
-        buttonGroup = units.group->getHandle();
-        ASSERT_FALSE(buttonGroup.isNull());
-    }
-    EXPECT_TRUE(buttonGroup.isNull());
-}
-
-// A button added again is listed once, at the end; one taken from another
-// group moves.
-TEST(CKyUIRadioGroupTest, ButtonsAreListedOnceInTheirLastGroup)
-{
-    Units units;
-    CKyUIRadioGroup loose;
-    loose.addRadioButton(nullptr);
-    auto* stray = new CKyUIRadioButton;
-    loose.addRadioButton(stray);
-    units.group->addRadioButton(units.buttons[0]);
-    units.group->addRadioButton(stray);
-    EXPECT_TRUE(loose.children().isEmpty());
-    EXPECT_EQ(units.group->children(),
-              (QList<CKyUIObject*>{units.buttons[1], units.buttons[2], units.buttons[0], stray}));
 }

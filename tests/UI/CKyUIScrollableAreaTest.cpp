@@ -1,6 +1,5 @@
 #include "UI/CKyUIScrollableArea.h"
 #include "UI/CKyUIVerticalLayout.h"
-#include "UI/Impl/CKyUIScrollableAreaImpl.h"
 #include "support/TestViews.h"
 
 #include <gtest/gtest.h>
@@ -11,56 +10,22 @@
 #include <QtWidgets/QScrollArea>
 #include <QtWidgets/QScrollBar>
 
-namespace
-{
-QScrollArea* AreaOf(const CKyUIScrollableArea& area)
-{
+const auto AreaOf = [](const CKyUIScrollableArea& area) {
     return qobject_cast<QScrollArea*>(area.getHandle());
-}
-
-// Notes the scroll position at the moment a posted event reaches it.
-class PostedEventProbe : public QObject
-{
-public:
-    explicit PostedEventProbe(QScrollBar* bar)
-        : m_bar(bar)
-    {
-    }
-
-    bool event(QEvent* event) override
-    {
-        if (event->type() != QEvent::User)
-            return QObject::event(event);
-        positionWhenReceived = m_bar->value();
-        return true;
-    }
-
-    int positionWhenReceived = -1;
-
-private:
-    QScrollBar* m_bar;
 };
-} // namespace
 
-TEST(CKyUIScrollableAreaTest, CreatesAScrollAreaUnderTheOlderName)
+// A scroll area under the older name; the scrolling flags are only kept.
+TEST(CKyUIScrollableAreaTest, CreatesAScrollAreaAndOnlyKeepsTheFlags)
 {
     CKyUIScrollableArea area;
     ASSERT_NE(AreaOf(area), nullptr);
     EXPECT_EQ(AreaOf(area)->styleSheet(), "QScrollView, QScrollArea { }");
     EXPECT_EQ(area.impl()->GetFrontendClassName(), "QScrollView");
     EXPECT_EQ(AreaOf(area)->parent(), nullptr);
-}
-
-TEST(CKyUIScrollableAreaTest, ScrollingFlagsAreOnlyKept)
-{
-    CKyUIScrollableArea area;
-    EXPECT_FALSE(area.horizontalScrollingEnabled());
-    EXPECT_FALSE(area.verticalScrollingEnabled());
-
+    EXPECT_FALSE(area.horizontalScrollingEnabled() || area.verticalScrollingEnabled());
     area.setHorizontalScrollingEnabled(true);
     area.setVerticalScrollingEnabled(true);
-    EXPECT_TRUE(area.horizontalScrollingEnabled());
-    EXPECT_TRUE(area.verticalScrollingEnabled());
+    EXPECT_TRUE(area.horizontalScrollingEnabled() && area.verticalScrollingEnabled());
     EXPECT_EQ(AreaOf(area)->horizontalScrollBarPolicy(), Qt::ScrollBarAsNeeded);
     EXPECT_EQ(AreaOf(area)->verticalScrollBarPolicy(), Qt::ScrollBarAsNeeded);
 }
@@ -94,36 +59,9 @@ TEST(CKyUIScrollableAreaTest, AddedViewFillsTheAreaAndALaterOneReplacesIt)
     delete second;
 }
 
+// Quiet without content or without a widget; with them, the last view of a
+// long column comes into sight.
 TEST(CKyUIScrollableAreaTest, ScrollToBringsTheLastViewOfALongColumnIntoSight)
-{
-    CKyUIScrollableArea area;
-    auto* column = new CKyUIVerticalLayout;
-    HandleView* last = nullptr;
-    for (int i = 0; i < 40; ++i) {
-        auto* label = new QLabel(QStringLiteral("row %1").arg(i));
-        label->setMinimumHeight(30);
-        last = new HandleView(label);
-        column->addView(last);
-    }
-    area.addView(column);
-    QScrollArea* scrollArea = AreaOf(area);
-    scrollArea->resize(200, 150);
-    scrollArea->show();
-
-    // Left pending until scrollTo runs the event loop.
-    PostedEventProbe probe(scrollArea->verticalScrollBar());
-    QCoreApplication::postEvent(&probe, new QEvent(QEvent::User));
-    area.scrollTo(last);
-    EXPECT_EQ(probe.positionWhenReceived, 0);
-
-    auto* lastWidget = static_cast<QWidget*>(last->getHandle());
-    const QRect inViewport(lastWidget->mapTo(scrollArea->viewport(), QPoint(0, 0)), lastWidget->size());
-    EXPECT_GT(scrollArea->verticalScrollBar()->value(), 0);
-    EXPECT_TRUE(scrollArea->viewport()->rect().contains(inViewport))
-        << inViewport.y() << " in a viewport of height " << scrollArea->viewport()->height();
-}
-
-TEST(CKyUIScrollableAreaTest, ScrollToWithoutContentOrWidgetIsQuiet)
 {
     QObject notAWidget;
     CKyUIScrollableArea area;
@@ -133,4 +71,27 @@ TEST(CKyUIScrollableAreaTest, ScrollToWithoutContentOrWidgetIsQuiet)
     area.addView(&stranger);
     area.removeView(&stranger);
     EXPECT_EQ(AreaOf(area)->widget(), nullptr);
+
+    auto* column = new CKyUIVerticalLayout;
+    HandleView* last = nullptr;
+    for (int i = 0; i < 40; ++i) {
+        auto* label = new QLabel(QStringLiteral("row %1").arg(i));
+        label->setMinimumHeight(30);
+        column->addView(last = new HandleView(label));
+    }
+    area.addView(column);
+    QScrollArea* scrollArea = AreaOf(area);
+    scrollArea->resize(200, 150);
+    scrollArea->show();
+    // Left pending until scrollTo runs the event loop.
+    int positionThen = -1;
+    QMetaObject::invokeMethod(
+        &notAWidget, [&] { positionThen = scrollArea->verticalScrollBar()->value(); }, Qt::QueuedConnection);
+    area.scrollTo(last);
+    EXPECT_EQ(positionThen, 0);
+    auto* lastWidget = static_cast<QWidget*>(last->getHandle());
+    const QRect inViewport(lastWidget->mapTo(scrollArea->viewport(), QPoint(0, 0)), lastWidget->size());
+    EXPECT_GT(scrollArea->verticalScrollBar()->value(), 0);
+    EXPECT_TRUE(scrollArea->viewport()->rect().contains(inViewport))
+        << inViewport.y() << " in a viewport of height " << scrollArea->viewport()->height();
 }

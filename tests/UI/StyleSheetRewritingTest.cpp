@@ -19,36 +19,7 @@
 
 namespace
 {
-enum class Kind { Frame, Label, Button };
-
-// A view of the given kind over its widget, whose sheet the rows start from.
-struct Styled
-{
-    explicit Styled(Kind kind)
-    {
-        if (kind == Kind::Label)
-            view.reset(new CKyUILabel);
-        else if (kind == Kind::Button)
-            view.reset(new CKyUIPushButton);
-        else
-            view.reset(new HandleView(new QFrame));
-    }
-    QWidget* widget() const { return qobject_cast<QWidget*>(view->getHandle()); }
-
-    std::unique_ptr<CKyUIBaseView> view;
-};
-
-using Apply = std::function<void(CKyUIBaseView&)>;
-
-Apply Label(std::function<void(CKyUILabel&)> apply)
-{
-    return [apply](CKyUIBaseView& view) { apply(static_cast<CKyUILabel&>(view)); };
-}
-
-Apply Button(std::function<void(CKyUIPushButton&)> apply)
-{
-    return [apply](CKyUIBaseView& view) { apply(static_cast<CKyUIPushButton&>(view)); };
-}
+const auto WidgetOf = [](const CKyUIBaseView& view) { return qobject_cast<QWidget*>(view.getHandle()); };
 
 QPalette PaletteWith(QPalette::ColorRole role, const QColor& color)
 {
@@ -57,18 +28,30 @@ QPalette PaletteWith(QPalette::ColorRole role, const QColor& color)
     return palette;
 }
 
-Apply Background(int rgb)
+void Background(CKyUIBaseView& view, int rgb)
 {
-    return [rgb](CKyUIBaseView& view) { view.setPalette(PaletteWith(QPalette::Base, QColor(QRgb(rgb)))); };
+    view.setPalette(PaletteWith(QPalette::Base, QColor(QRgb(rgb))));
 }
 
-struct Row
+template <class View> struct Row
 {
-    Kind kind;
     const char* sheet; // null: the widget's own empty rule
-    Apply apply;
+    std::function<void(View&)> apply;
     const char* expected;
 };
+
+// Each row on a fresh view from `make`, starting from the row's sheet.
+template <class View> void ExpectRows(std::function<View*()> make, std::initializer_list<Row<View>> rows)
+{
+    for (const Row<View>& row : rows) {
+        std::unique_ptr<View> view(make());
+        if (row.sheet)
+            WidgetOf(*view)->setStyleSheet(QString::fromLatin1(row.sheet));
+        SCOPED_TRACE(WidgetOf(*view)->styleSheet().toStdString());
+        row.apply(*view);
+        EXPECT_EQ(WidgetOf(*view)->styleSheet(), QString::fromLatin1(row.expected));
+    }
+}
 } // namespace
 
 // Each rule removes what its expression matches, then puts its declaration in
@@ -79,148 +62,117 @@ TEST(StyleSheetRewriting, EachRuleOverSheetsOfEveryShape)
     const auto colour = [](int r, int g, int b) {
         return [=](CKyUIBaseView& v) { v.setBorderColor(r, g, b); };
     };
-    const auto twice = [](Apply first, Apply second) {
-        return [=](CKyUIBaseView& v) {
-            first(v);
-            second(v);
-        };
-    };
-    const Row rows[] = {
-        {Kind::Frame, "", width(2), "border-style:solid;border-width:2px;"},
-        {Kind::Frame, "QFrame{border: 1px solid red;}", width(3),
-         "QFrame{border-style:solid;border-width:3px;}"},
-        {Kind::Frame, "QFrame { }", width(1.5f), "QFrame { border-style:solid;border-width:1.5px;}"},
-        // Widths with a zero are never matched again: the sheet grows.
-        {Kind::Frame, "", twice(width(1), width(2)), "border-width:1px;border-style:solid;border-width:2px;"},
-        {Kind::Frame, "border: 0px;", width(4), "border: 0px;border-style:solid;border-width:4px;"},
-        {Kind::Frame, "", width(-1), "border-style:solid;border-width:-1px;"},
-        {Kind::Frame, "}", width(2), "}border-style:solid;border-width:2px;"},
-        {Kind::Frame, "QFrame { border-left-style: dashed; border-top-width: 7px; border-left-width:0px; }",
-         [](CKyUIBaseView& v) { v.setBorderWidth(1.5f, 2, 0, 4); },
-         "QFrame {   border-left-width:0px; "
-         "border-left-style:solid;border-top-style:solid;border-right-style:solid;border-bottom-style:solid;"
-         "border-left-width:1.5px;border-top-width:2px;border-right-width:0px;border-bottom-width:4px;}"},
-        {Kind::Frame, "QFrame { color: red; }", twice(colour(255, 0, 0), colour(1, 2, 3)),
-         "QFrame { color: red; border-color: #ff0000;border-color: #010203;}"},
-        // A one-character value is the only one the expression removes.
-        {Kind::Frame, "border-color: x;", colour(0, 0, 0), "border-color: #000000;"},
-        // The shorthand goes, and with it any width written in it.
-        {Kind::Frame, "QFrame{border: 2px solid blue;}", colour(16, 32, 48),
-         "QFrame{border-color: #102030;}"},
-        // Channels outside 0 to 255 leave the toolkit's invalid colour, black.
-        {Kind::Frame, "QFrame { }", colour(-1, 256, INT_MAX), "QFrame { border-color: #000000;}"},
-        {Kind::Frame, "}", Background(0x010203), "background-color: #010203;}"},
-        {Kind::Frame, "QFrame { background-color: #1a2b3c; }",
-         [](CKyUIBaseView& v) {
-             QPalette palette = PaletteWith(QPalette::Base, QColor(0x11, 0x22, 0x33));
-             palette.setBrush(QPalette::Active, QPalette::AlternateBase, QColor(0x77, 0x88, 0x99));
-             v.setPalette(palette);
-         },
-         "QFrame {  background-color: #112233;border-color: #778899;}"},
-        {Kind::Frame, "QFrame { background-color: #808080; }",
-         twice(Background(0x646464), Background(0x123456)),
-         "QFrame { background-color: #808080; background-color: #123456;}"},
-        // A disabled view stores the palette only, also once enabled again.
-        {Kind::Frame, "QFrame { }",
-         [](CKyUIBaseView& v) {
-             v.setEnabled(false);
-             Background(0x0000ff)(v);
-             v.setEnabled(true);
-         },
-         "QFrame { }"},
-        {Kind::Frame, "QFrame { }",
-         [](CKyUIBaseView& v) {
-             v.setCornerRadius(4);
-             v.addStyleClass("primary", true);
-             v.removeStyleClass("primary", false);
-         },
-         "QFrame { }"},
-
-        {Kind::Label, nullptr, Label([](CKyUILabel& l) { l.setFontSize(14), l.setBoldText(true); }),
-         "QLabel { font-size:14px;font-weight: bold;}"},
-        {Kind::Label, nullptr, Label([](CKyUILabel& l) { l.setFontSize(12), l.setFontSize(12); }),
-         "QLabel { font-size:12px;}"},
-        // Neither a zero nor a minus sign is matched again.
-        {Kind::Label, nullptr,
-         Label([](CKyUILabel& l) { l.setFontSize(10), l.setFontSize(12), l.setFontSize(13); }),
-         "QLabel { font-size:10px;font-size:13px;}"},
-        {Kind::Label, nullptr, Label([](CKyUILabel& l) { l.setFontSize(-3), l.setFontSize(9); }),
-         "QLabel { font-size:-3px;font-size:9px;}"},
-        {Kind::Label, nullptr, Label([](CKyUILabel& l) { l.setFontSize(INT_MIN); }),
-         "QLabel { font-size:-2147483648px;}"},
-        {Kind::Label, "color: red;", Label([](CKyUILabel& l) { l.setFontSize(11); }),
-         "color: red;font-size:11px;"},
-        {Kind::Label, nullptr, Label([](CKyUILabel& l) { l.setBoldText(true), l.setBoldText(false); }),
-         "QLabel { font-weight: normal;}"},
-        // The label's weight admits the digits 1 to 9, not 600.
-        {Kind::Label, "QLabel { font-weight: 600; } QLabel:hover { font-weight: 9; }",
-         Label([](CKyUILabel& l) { l.setBoldText(true); }),
-         "QLabel { font-weight: 600; } QLabel:hover {  font-weight: bold;}"},
-
-        {Kind::Button, nullptr, Button([](CKyUIPushButton& b) { b.setTextAlignment(CKyUIPushButton::Left); }),
-         "QPushButton { text-align:left;}"},
-        {Kind::Button, nullptr, Button([](CKyUIPushButton& b) {
-             b.setTextAlignment(CKyUIPushButton::Center);
-             b.setTextAlignment(CKyUIPushButton::Right);
-         }),
-         "QPushButton { text-align:right;}"},
-        // Out of range: the old alignment goes and nothing takes its place.
-        {Kind::Button, nullptr, Button([](CKyUIPushButton& b) {
-             b.setTextAlignment(CKyUIPushButton::Left);
-             b.setTextAlignment(CKyUIPushButton::TextAlignment(7));
-         }),
-         "QPushButton { }"},
-        {Kind::Button, "QPushButton { text-align \t: \tright ; color: red; }",
-         Button([](CKyUIPushButton& b) { b.setTextAlignment(CKyUIPushButton::Left); }),
-         "QPushButton {  color: red; text-align:left;}"},
-        {Kind::Button, "color: red;",
-         Button([](CKyUIPushButton& b) { b.setTextAlignment(CKyUIPushButton::Center); }),
-         "color: red;text-align:center;"},
-        {Kind::Button, nullptr, Button([](CKyUIPushButton& b) { b.setBoldText(true), b.setBoldText(false); }),
-         "QPushButton { font-weight: normal;}"},
-        // The button's weight admits no digit at all.
-        {Kind::Button, "QPushButton { font-weight: 600; }",
-         Button([](CKyUIPushButton& b) { b.setBoldText(true); }),
-         "QPushButton { font-weight: 600; font-weight: bold;}"},
-        {Kind::Button, nullptr, Button([](CKyUIPushButton& b) {
-             b.setBorderWidth(2);
-             b.setTextAlignment(CKyUIPushButton::Left);
-             b.setBoldText(true);
-         }),
-         "QPushButton { border-style:solid;border-width:2px;text-align:left;font-weight: bold;}"},
-        {Kind::Button, "QPushButton { color: red; } QPushButton:hover { }",
-         Button([](CKyUIPushButton& b) { b.setTextAlignment(CKyUIPushButton::Right); }),
-         "QPushButton { color: red; } QPushButton:hover { text-align:right;}"},
-    };
-    for (const Row& row : rows) {
-        Styled styled(row.kind);
-        if (row.sheet)
-            styled.widget()->setStyleSheet(QString::fromLatin1(row.sheet));
-        SCOPED_TRACE(styled.widget()->styleSheet().toStdString());
-        row.apply(*styled.view);
-        EXPECT_EQ(styled.widget()->styleSheet(), QString::fromLatin1(row.expected));
-    }
+    ExpectRows<CKyUIBaseView>(
+        [] { return new HandleView(new QFrame); },
+        {
+            {"", width(2), "border-style:solid;border-width:2px;"},
+            {"QFrame{border: 1px solid red;}", width(3), "QFrame{border-style:solid;border-width:3px;}"},
+            {"QFrame { }", width(1.5f), "QFrame { border-style:solid;border-width:1.5px;}"},
+            // Widths with a zero are never matched again: the sheet grows.
+            {"", [](auto& v) { v.setBorderWidth(1), v.setBorderWidth(2); },
+             "border-width:1px;border-style:solid;border-width:2px;"},
+            {"border: 0px;", width(4), "border: 0px;border-style:solid;border-width:4px;"},
+            {"", width(-1), "border-style:solid;border-width:-1px;"},
+            {"}", width(2), "}border-style:solid;border-width:2px;"},
+            {"QFrame { border-left-style: dashed; border-top-width: 7px; border-left-width:0px; }",
+             [](auto& v) { v.setBorderWidth(1.5f, 2, 0, 4); },
+             "QFrame {   border-left-width:0px; "
+             "border-left-style:solid;border-top-style:solid;border-right-style:solid;border-bottom-style:"
+             "solid;"
+             "border-left-width:1.5px;border-top-width:2px;border-right-width:0px;border-bottom-width:4px;}"},
+            {"QFrame { color: red; }",
+             [](auto& v) { v.setBorderColor(255, 0, 0), v.setBorderColor(1, 2, 3); },
+             "QFrame { color: red; border-color: #ff0000;border-color: #010203;}"},
+            // A one-character value is the only one the expression removes.
+            {"border-color: x;", colour(0, 0, 0), "border-color: #000000;"},
+            // The shorthand goes, and with it any width written in it.
+            {"QFrame{border: 2px solid blue;}", colour(16, 32, 48), "QFrame{border-color: #102030;}"},
+            // Channels outside 0 to 255 leave the toolkit's invalid colour, black.
+            {"QFrame { }", colour(-1, 256, INT_MAX), "QFrame { border-color: #000000;}"},
+            {"}", [](auto& v) { Background(v, 0x010203); }, "background-color: #010203;}"},
+            {"QFrame { background-color: #1a2b3c; }",
+             [](auto& v) {
+                 QPalette palette = PaletteWith(QPalette::Base, QColor(0x11, 0x22, 0x33));
+                 palette.setBrush(QPalette::Active, QPalette::AlternateBase, QColor(0x77, 0x88, 0x99));
+                 v.setPalette(palette);
+             },
+             "QFrame {  background-color: #112233;border-color: #778899;}"},
+            {"QFrame { background-color: #808080; }",
+             [](auto& v) { Background(v, 0x646464), Background(v, 0x123456); },
+             "QFrame { background-color: #808080; background-color: #123456;}"},
+            // A disabled view stores the palette only, also once enabled again.
+            {"QFrame { }", [](auto& v) { v.setEnabled(false), Background(v, 0xff), v.setEnabled(true); },
+             "QFrame { }"},
+            {"QFrame { }",
+             [](auto& v) {
+                 v.setCornerRadius(4), v.addStyleClass("primary", true), v.removeStyleClass("primary", false);
+             },
+             "QFrame { }"},
+        });
+    ExpectRows<CKyUILabel>(
+        [] { return new CKyUILabel; },
+        {
+            {nullptr, [](auto& l) { l.setFontSize(14), l.setBoldText(true); },
+             "QLabel { font-size:14px;font-weight: bold;}"},
+            {nullptr, [](auto& l) { l.setFontSize(12), l.setFontSize(12); }, "QLabel { font-size:12px;}"},
+            // Neither a zero nor a minus sign is matched again.
+            {nullptr, [](auto& l) { l.setFontSize(10), l.setFontSize(12), l.setFontSize(13); },
+             "QLabel { font-size:10px;font-size:13px;}"},
+            {nullptr, [](auto& l) { l.setFontSize(-3), l.setFontSize(9); },
+             "QLabel { font-size:-3px;font-size:9px;}"},
+            {nullptr, [](auto& l) { l.setFontSize(INT_MIN); }, "QLabel { font-size:-2147483648px;}"},
+            {"color: red;", [](auto& l) { l.setFontSize(11); }, "color: red;font-size:11px;"},
+            {nullptr, [](auto& l) { l.setBoldText(true), l.setBoldText(false); },
+             "QLabel { font-weight: normal;}"},
+            // The label's weight admits the digits 1 to 9, not 600.
+            {"QLabel { font-weight: 600; } QLabel:hover { font-weight: 9; }",
+             [](auto& l) { l.setBoldText(true); },
+             "QLabel { font-weight: 600; } QLabel:hover {  font-weight: bold;}"},
+        });
+    using B = CKyUIPushButton;
+    ExpectRows<B>(
+        [] { return new B; },
+        {
+            {nullptr, [](auto& b) { b.setTextAlignment(B::Left); }, "QPushButton { text-align:left;}"},
+            {nullptr, [](auto& b) { b.setTextAlignment(B::Center), b.setTextAlignment(B::Right); },
+             "QPushButton { text-align:right;}"},
+            // Out of range: the old alignment goes and nothing takes its place.
+            {nullptr, [](auto& b) { b.setTextAlignment(B::Left), b.setTextAlignment(B::TextAlignment(7)); },
+             "QPushButton { }"},
+            {"QPushButton { text-align \t: \tright ; color: red; }",
+             [](auto& b) { b.setTextAlignment(B::Left); }, "QPushButton {  color: red; text-align:left;}"},
+            {"color: red;", [](auto& b) { b.setTextAlignment(B::Center); }, "color: red;text-align:center;"},
+            {nullptr, [](auto& b) { b.setBoldText(true), b.setBoldText(false); },
+             "QPushButton { font-weight: normal;}"},
+            // The button's weight admits no digit at all.
+            {"QPushButton { font-weight: 600; }", [](auto& b) { b.setBoldText(true); },
+             "QPushButton { font-weight: 600; font-weight: bold;}"},
+            {nullptr, [](auto& b) { b.setBorderWidth(2), b.setTextAlignment(B::Left), b.setBoldText(true); },
+             "QPushButton { border-style:solid;border-width:2px;text-align:left;font-weight: bold;}"},
+            {"QPushButton { color: red; } QPushButton:hover { }",
+             [](auto& b) { b.setTextAlignment(B::Right); },
+             "QPushButton { color: red; } QPushButton:hover { text-align:right;}"},
+        });
 }
 
-// The text colour goes to the widget's palette, opaque, never into the sheet.
+// The text colour goes to the widget's palette, opaque, never into the sheet;
+// handles that are no widgets are left alone.
 TEST(StyleSheetRewriting, TextColourGoesToThePaletteWhileEnabled)
 {
-    Styled styled(Kind::Frame);
+    QFrame frame;
+    HandleView view(&frame);
     QPalette palette = PaletteWith(QPalette::Text, QColor(0x44, 0x55, 0x66, 17));
-    styled.view->setEnabled(false);
-    styled.view->setPalette(palette);
-    EXPECT_NE(styled.widget()->palette().color(QPalette::Text), QColor(0x44, 0x55, 0x66));
-    styled.view->setEnabled(true);
-    styled.view->setPalette(palette);
-    EXPECT_EQ(styled.widget()->palette().color(QPalette::Active, QPalette::Text), QColor(0x44, 0x55, 0x66));
-    EXPECT_EQ(styled.view->palette(), palette);
-    EXPECT_EQ(styled.widget()->styleSheet(), QString());
-}
+    view.setEnabled(false);
+    view.setPalette(palette);
+    EXPECT_NE(frame.palette().color(QPalette::Text), QColor(0x44, 0x55, 0x66));
+    view.setEnabled(true);
+    view.setPalette(palette);
+    EXPECT_EQ(frame.palette().color(QPalette::Active, QPalette::Text), QColor(0x44, 0x55, 0x66));
+    EXPECT_EQ(view.palette(), palette);
+    EXPECT_EQ(frame.styleSheet(), QString());
 
-TEST(StyleSheetRewriting, HandlesThatAreNoWidgetsAreLeftAlone)
-{
     QObject plain;
-    HandleView view(&plain);
+    view.setHandle(&plain);
     view.setBorderWidth(2);
     view.setBorderColor(1, 2, 3);
     view.setPalette(PaletteWith(QPalette::Base, Qt::red));
@@ -285,14 +237,9 @@ TEST(StyleSheetRewriting, AnySheetAndValueKeepsEachRulesDeclarationLast)
             text += QString::fromLatin1(pieces[between(0, int(std::size(pieces)) - 1)]);
         return text;
     };
-    const float widths[] = {std::numeric_limits<float>::quiet_NaN(),
-                            std::numeric_limits<float>::infinity(),
-                            -std::numeric_limits<float>::infinity(),
-                            1e30f,
-                            -1.5f,
-                            0.0f,
-                            2.0f,
-                            7.25f};
+    const float inf = std::numeric_limits<float>::infinity();
+    const float widths[] = {
+        std::numeric_limits<float>::quiet_NaN(), inf, -inf, 1e30f, -1.5f, 0.0f, 2.0f, 7.25f};
     const int numbers[] = {INT_MIN, INT_MAX, -300, -1, 0, 9, 10, 255, 256, 600};
 
     CKyUILabel label;
@@ -308,45 +255,33 @@ TEST(StyleSheetRewriting, AnySheetAndValueKeepsEachRulesDeclarationLast)
             const float w = widths[between(0, int(std::size(widths)) - 1)];
             const int n = numbers[between(0, int(std::size(numbers)) - 1)];
             const bool bold = between(0, 1);
-            const QString weight =
-                bold ? QStringLiteral("font-weight: bold;") : QStringLiteral("font-weight: normal;");
             const QString before = widget->styleSheet();
             QString declaration;
-            switch (between(0, 4)) {
-            case 0:
+            const int rule = between(0, 4);
+            if (rule == 0) {
                 view.setBorderWidth(w);
                 declaration = QStringLiteral("border-style:solid;border-width:%1px;").arg(double(w));
-                break;
-            case 1: {
+            } else if (rule == 1) {
                 view.setBorderColor(n, 0, 255);
                 QColor color;
-                color.setRgb(n, 0, 255);
+                color.setRgb(n, 0, 255); // out of range: the toolkit's invalid colour
                 declaration = QStringLiteral("border-color: %1;").arg(color.name());
-                break;
-            }
-            case 2: {
+            } else if (rule == 2) {
                 const QColor color(QRgb(unsigned(n) & 0xffffffu));
                 view.setPalette(PaletteWith(QPalette::Base, color));
                 declaration = QStringLiteral("background-color: %1;").arg(color.name());
-                break;
-            }
-            case 3:
-                if (onLabel)
-                    label.setBoldText(bold);
-                else
-                    button.setBoldText(bold);
-                declaration = weight;
-                break;
-            default:
-                if (onLabel) {
-                    label.setFontSize(n);
-                    declaration = QStringLiteral("font-size:%1px;").arg(n);
-                } else {
-                    static const char* const names[] = {"left", "right", "center"};
-                    const int alignment = between(0, 2);
-                    button.setTextAlignment(CKyUIPushButton::TextAlignment(alignment));
-                    declaration = QStringLiteral("text-align:%1;").arg(QLatin1String(names[alignment]));
-                }
+            } else if (rule == 3) {
+                onLabel ? label.setBoldText(bold) : button.setBoldText(bold);
+                declaration =
+                    bold ? QStringLiteral("font-weight: bold;") : QStringLiteral("font-weight: normal;");
+            } else if (onLabel) {
+                label.setFontSize(n);
+                declaration = QStringLiteral("font-size:%1px;").arg(n);
+            } else {
+                static const char* const names[] = {"left", "right", "center"};
+                const int alignment = between(0, 2);
+                button.setTextAlignment(CKyUIPushButton::TextAlignment(alignment));
+                declaration = QStringLiteral("text-align:%1;").arg(QLatin1String(names[alignment]));
             }
             ASSERT_TRUE(DeclarationStandsLast(before, widget->styleSheet(), declaration))
                 << "round " << round << ", sheet before: " << before.left(200).toStdString();
