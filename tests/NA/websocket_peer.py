@@ -1,13 +1,11 @@
 #!/usr/bin/python3
 """A web-socket peer for the tests, on python3-websockets, listening on 127.0.0.1.
 
-Usage: websocket_peer.py [--tls]
-
-Prints "port N" once it listens and exits when its standard input closes, so
-it never outlives the test that started it. With --tls it speaks TLS with a
-self-signed certificate for 127.0.0.1 that it makes with openssl, and prints
-"port N CERT" with the path of that certificate. The path of the request picks what
-it does:
+Listens twice, in plain text and in TLS with a self-signed certificate for
+127.0.0.1 that it makes with openssl, and prints both base URLs on one line
+("ws://127.0.0.1:PORT wss://127.0.0.1:PORT"). Exits when its standard input
+closes, so it never outlives the test that started it. The path of the request
+picks what it does:
   /echo              sends every text message back
   /close/CODE/REASON closes at once with CODE and the URL-decoded REASON
   /frozen            says "frozen", then reads nothing more: no pong, no close
@@ -49,25 +47,26 @@ async def handler(websocket):
 
 
 async def main():
-    context, cert, keys = None, "", tempfile.TemporaryDirectory()
-    if sys.argv[1:] == ["--tls"]:
-        cert, key = os.path.join(keys.name, "cert.pem"), os.path.join(keys.name, "key.pem")
+    with tempfile.TemporaryDirectory() as keys:
+        cert, key = os.path.join(keys, "cert.pem"), os.path.join(keys, "key.pem")
         subprocess.run(["openssl", "req", "-x509", "-newkey", "ec", "-pkeyopt", "ec_paramgen_curve:prime256v1",
                         "-nodes", "-days", "1", "-subj", "/CN=127.0.0.1", "-keyout", key, "-out", cert],
                        check=True, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         context = ssl.SSLContext(ssl.PROTOCOL_TLS_SERVER)
         context.load_cert_chain(cert, key)
+
     # Hanging and frozen connections would hold up a graceful shutdown: once the
     # test lets go, the peer just ends.
     def on_stdin():
         if not sys.stdin.buffer.read1(4096):
-            keys.cleanup()
             os._exit(0)
 
     asyncio.get_running_loop().add_reader(sys.stdin, on_stdin)
-    async with websockets.serve(handler, "127.0.0.1", 0, ssl=context, process_request=process_request,
-                                ping_interval=None) as server:
-        print("port", server.sockets[0].getsockname()[1], cert, flush=True)
+    options = dict(process_request=process_request, ping_interval=None)
+    async with websockets.serve(handler, "127.0.0.1", 0, **options) as plain, \
+            websockets.serve(handler, "127.0.0.1", 0, ssl=context, **options) as secure:
+        print(f"ws://127.0.0.1:{plain.sockets[0].getsockname()[1]}",
+              f"wss://127.0.0.1:{secure.sockets[0].getsockname()[1]}", flush=True)
         await forever()
 
 
