@@ -98,8 +98,13 @@ void CKyNAWebSocketImpl::OpenImpl(const CKyNANetworkRequest& request)
     if (!socket || !toolkitRequest)
         return;
 #if QT_CONFIG(ssl)
-    // Unset, it is the process-wide default, which the socket would use anyway.
-    socket->setSslConfiguration(toolkitRequest->sslConfiguration());
+    // A request without TLS settings of its own answers the process-wide
+    // default; the socket is then left (or put back) on its own default, as
+    // it always was.
+    const QSslConfiguration configuration = toolkitRequest->sslConfiguration();
+    const bool own = configuration != QSslConfiguration::defaultConfiguration();
+    if (own || !socket->sslConfiguration().isNull())
+        socket->setSslConfiguration(own ? configuration : QSslConfiguration());
 #endif
     socket->open(*toolkitRequest);
 }
