@@ -15,7 +15,7 @@ class CKyNANetworkRequest;
 
 /// A receive-only web socket: reports connection, disconnection, errors and
 /// incoming text messages; binary messages are not reported and nothing is
-/// sent but the close.
+/// sent but pings and the close.
 ///
 /// Order of the signals is the toolkit's: a successful open() gives
 /// connected(), then any number of textMessageReceived(), then disconnected()
@@ -23,6 +23,13 @@ class CKyNANetworkRequest;
 /// error() (and disconnected() where the toolkit reports it), never
 /// connected(). A message that arrives while the socket's signals are blocked
 /// is dropped, not queued.
+///
+/// Options, none of which changes anything for a client that leaves them
+/// alone: on a secure open, sslErrors() comes before connected() and the open
+/// fails after it unless its slot calls ignoreSslErrors(); setHandshakeTimeout()
+/// bounds the opening (error(), then disconnected()); ping() is answered by
+/// pong(), so a client notices a frozen server; closeCode() and closeReason()
+/// tell how the last connection ended.
 ///
 /// The client owns the web socket; deleting it closes the connection.
 /// Deleting it from one of its own slots is fine: the toolkit socket is then
