@@ -38,3 +38,48 @@ CKyUISignal<void(const QString&)>& CKyNAWebSocket::textMessageReceived()
 {
     return implAs<CKyNAWebSocketImpl>()->textMessageReceived;
 }
+
+void CKyNAWebSocket::setHandshakeTimeout(int ms)
+{
+    implAs<CKyNAWebSocketImpl>()->SetHandshakeTimeout(ms);
+}
+
+int CKyNAWebSocket::handshakeTimeout() const
+{
+    return implAs<CKyNAWebSocketImpl>()->GetHandshakeTimeout();
+}
+
+void CKyNAWebSocket::ping(const QByteArray& payload)
+{
+    implAs<CKyNAWebSocketImpl>()->ping(payload);
+}
+
+void CKyNAWebSocket::ignoreSslErrors()
+{
+    implAs<CKyNAWebSocketImpl>()->ignoreSslErrors();
+}
+
+void CKyNAWebSocket::ignoreSslErrors(const QList<QSslError>& errors)
+{
+    implAs<CKyNAWebSocketImpl>()->ignoreSslErrors(errors);
+}
+
+CKyNAWebSocketProtocol::CloseCode CKyNAWebSocket::closeCode() const
+{
+    return implAs<CKyNAWebSocketImpl>()->GetCloseCode();
+}
+
+QString CKyNAWebSocket::closeReason() const
+{
+    return implAs<CKyNAWebSocketImpl>()->GetCloseReason();
+}
+
+CKyUISignal<void(const QList<QSslError>&)>& CKyNAWebSocket::sslErrors()
+{
+    return implAs<CKyNAWebSocketImpl>()->sslErrors;
+}
+
+CKyUISignal<void(long long, const QByteArray&)>& CKyNAWebSocket::pong()
+{
+    return implAs<CKyNAWebSocketImpl>()->pong;
+}

@@ -7,6 +7,8 @@ CKyNAWebSocketImpl::CKyNAWebSocketImpl(CKyNAWebSocket* owner, const QString& ori
     , error(owner)
     , disconnected(owner)
     , textMessageReceived(owner)
+    , sslErrors(owner)
+    , pong(owner)
 {
     CreateWebSocketImpl(origin, version);
 }
@@ -20,6 +22,16 @@ CKyNAWebSocketImpl::~CKyNAWebSocketImpl()
 
 void CKyNAWebSocketImpl::open(const CKyNANetworkRequest& request)
 {
+    ++m_opens;
+    m_closing = false;
+    m_closeCode = CKyNAWebSocketProtocol::CloseCode(0);
+    m_closeReason.clear();
+    // Armed first: the toolkit may refuse the request from inside open(), and
+    // a slot may delete us there.
+    if (m_handshakeTimeout > 0)
+        StartHandshakeTimerImpl();
+    else
+        StopHandshakeTimerImpl();
     OpenImpl(request);
 }
 
@@ -28,22 +40,77 @@ void CKyNAWebSocketImpl::close(CKyNAWebSocketProtocol::CloseCode code, const QSt
     CloseImpl(code, reason);
 }
 
+void CKyNAWebSocketImpl::ping(const QByteArray& payload)
+{
+    PingImpl(payload);
+}
+
+void CKyNAWebSocketImpl::ignoreSslErrors()
+{
+    if (m_reportingSslErrors)
+        IgnoreSslErrorsImpl();
+}
+
+void CKyNAWebSocketImpl::ignoreSslErrors(const QList<QSslError>& errors)
+{
+    if (m_reportingSslErrors)
+        IgnoreSslErrorsImpl(errors);
+}
+
+void CKyNAWebSocketImpl::SetHandshakeTimeout(int ms)
+{
+    m_handshakeTimeout = ms;
+}
+
 void CKyNAWebSocketImpl::OnConnected()
 {
+    StopHandshakeTimerImpl();
     EmitInOrder([this] { connected.Emit(); });
 }
 
 void CKyNAWebSocketImpl::OnError(int code)
 {
+    StopHandshakeTimerImpl();
     EmitInOrder([&] { error.Emit(code); });
 }
 
-void CKyNAWebSocketImpl::OnDisconnected()
+void CKyNAWebSocketImpl::OnDisconnected(CKyNAWebSocketProtocol::CloseCode code, const QString& reason)
 {
+    StopHandshakeTimerImpl();
+    m_closeCode = m_closing ? code : CKyNAWebSocketProtocol::CloseCodeAbnormalDisconnection;
+    m_closeReason = m_closing ? reason : QString();
     EmitInOrder([this] { disconnected.Emit(); });
 }
 
 void CKyNAWebSocketImpl::OnTextMessageReceived(const QString& message)
 {
     EmitInOrder([&] { textMessageReceived.Emit(message); });
+}
+
+void CKyNAWebSocketImpl::OnClosing()
+{
+    m_closing = true;
+}
+
+void CKyNAWebSocketImpl::OnSslErrors(const QList<QSslError>& errors)
+{
+    m_reportingSslErrors = true;
+    if (EmitInOrder([&] { sslErrors.Emit(errors); }))
+        m_reportingSslErrors = false;
+}
+
+void CKyNAWebSocketImpl::OnPong(long long elapsedMs, const QByteArray& payload)
+{
+    EmitInOrder([&] { pong.Emit(elapsedMs, payload); });
+}
+
+void CKyNAWebSocketImpl::OnHandshakeTimeout(int timeoutError)
+{
+    const int opens = m_opens;
+    if (!EmitInOrder([&] { error.Emit(timeoutError); }))
+        return;
+    // A slot that opened again keeps its new attempt; otherwise the toolkit
+    // reports disconnected() as after any failed open.
+    if (opens == m_opens)
+        AbortImpl();
 }

@@ -3,8 +3,10 @@
 #include "NA/CKyNAWebSocket.h"
 #include "UI/Impl/CKyUIObjectImpl.h"
 
+#include <QtCore/QByteArray>
 #include <QtCore/QList>
 #include <QtCore/QMetaObject>
+#include <QtNetwork/QSslError>
 
 class CKyNANetworkRequest;
 
@@ -18,24 +20,54 @@ public:
 
     void open(const CKyNANetworkRequest& request);
     void close(CKyNAWebSocketProtocol::CloseCode code, const QString& reason);
+    void ping(const QByteArray& payload);
+    void ignoreSslErrors();
+    void ignoreSslErrors(const QList<QSslError>& errors);
+    void SetHandshakeTimeout(int ms);
+    int GetHandshakeTimeout() const { return m_handshakeTimeout; }
+    CKyNAWebSocketProtocol::CloseCode GetCloseCode() const { return m_closeCode; }
+    QString GetCloseReason() const { return m_closeReason; }
 
     // Toolkit steps.
     void CreateWebSocketImpl(const QString& origin, CKyNAWebSocketProtocol::Version version);
     void DestroyWebSocketImpl();
     void OpenImpl(const CKyNANetworkRequest& request);
     void CloseImpl(CKyNAWebSocketProtocol::CloseCode code, const QString& reason);
+    void PingImpl(const QByteArray& payload);
+    void IgnoreSslErrorsImpl();
+    void IgnoreSslErrorsImpl(const QList<QSslError>& errors);
+    void StartHandshakeTimerImpl();
+    void StopHandshakeTimerImpl();
+    void AbortImpl();
 
     // Reactions to the toolkit socket.
     void OnConnected();
     void OnError(int code);
-    void OnDisconnected();
+    void OnDisconnected(CKyNAWebSocketProtocol::CloseCode code, const QString& reason);
     void OnTextMessageReceived(const QString& message);
+    void OnClosing();
+    void OnSslErrors(const QList<QSslError>& errors);
+    void OnPong(long long elapsedMs, const QByteArray& payload);
+    void OnHandshakeTimeout(int timeoutError);
 
     CKyUISignal<void()> connected;
     CKyUISignal<void(int)> error;
     CKyUISignal<void()> disconnected;
     CKyUISignal<void(const QString&)> textMessageReceived;
+    CKyUISignal<void(const QList<QSslError>&)> sslErrors;
+    CKyUISignal<void(long long, const QByteArray&)> pong;
 
 private:
     QList<QMetaObject::Connection> m_connections;
+    int m_handshakeTimeout = 0;
+    // Counts open() calls, so that a slot that opens again from inside a
+    // report is not undone by what follows that report.
+    int m_opens = 0;
+    // Whether the connection went through a closing handshake: without one
+    // the toolkit's close code is stale.
+    bool m_closing = false;
+    // Errors may be ignored only for the handshake that reports them.
+    bool m_reportingSslErrors = false;
+    CKyNAWebSocketProtocol::CloseCode m_closeCode = CKyNAWebSocketProtocol::CloseCode(0);
+    QString m_closeReason;
 };

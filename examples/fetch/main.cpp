@@ -1,5 +1,7 @@
 // fetch URL [--timeout MS] [--method GET|POST|PUT|DELETE] [--data TEXT]
 //           [--header 'Name: value']... [--body]
+// fetch ws[s]://... [--timeout MS] [--header 'Name: value']... [--messages N]
+//           [--for MS] [--ping MS] [--insecure]
 //
 // Sends one request through CKyNANetworkAccessManager and prints the status
 // code, the received headers and the body size (or the body itself). Exits
@@ -9,6 +11,7 @@
 #include "NA/CKyNANetworkAccessManager.h"
 #include "NA/CKyNANetworkReply.h"
 #include "NA/CKyNANetworkRequest.h"
+#include "WebSocketMode.h"
 
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QCoreApplication>
@@ -54,6 +57,7 @@ int main(int argc, char** argv)
     const QCommandLineOption bodyOption(QStringLiteral("body"),
                                         QStringLiteral("Print the body, not its size."));
     parser.addOptions({timeoutOption, methodOption, dataOption, headerOption, bodyOption});
+    addWebSocketOptions(parser);
     parser.process(application);
 
     if (parser.positionalArguments().size() != 1)
@@ -81,6 +85,8 @@ int main(int argc, char** argv)
             return usageError(parser, QStringLiteral("a header reads 'Name: value': %1").arg(header));
         request.setRawHeader(header.left(colon).trimmed().toUtf8(), header.mid(colon + 1).trimmed().toUtf8());
     }
+    if (isWebSocketUrl(url))
+        return runWebSocket(parser, request, request.requestTimeout() > 0 ? request.requestTimeout() : 30000);
     const QByteArray data = parser.value(dataOption).toUtf8();
     if (parser.isSet(dataOption) && !request.rawHeader("Content-Type").isValid())
         request.setHeader(CKyNANetworkRequest::ContentTypeHeader, QByteArray("text/plain; charset=utf-8"));

@@ -6,13 +6,16 @@
 #include "UI/CKyUIObject.h"
 #include "UI/CKyUISignal.h"
 
+#include <QtCore/QByteArray>
+#include <QtCore/QList>
 #include <QtCore/QString>
+#include <QtNetwork/QSslError>
 
 class CKyNANetworkRequest;
 
 /// A receive-only web socket: reports connection, disconnection, errors and
 /// incoming text messages; binary messages are not reported and nothing is
-/// sent but the close.
+/// sent but pings and the close.
 ///
 /// Order of the signals is the toolkit's: a successful open() gives
 /// connected(), then any number of textMessageReceived(), then disconnected()
@@ -20,6 +23,13 @@ class CKyNANetworkRequest;
 /// error() (and disconnected() where the toolkit reports it), never
 /// connected(). A message that arrives while the socket's signals are blocked
 /// is dropped, not queued.
+///
+/// Options, none of which changes anything for a client that leaves them
+/// alone: on a secure open, sslErrors() comes before connected() and the open
+/// fails after it unless its slot calls ignoreSslErrors(); setHandshakeTimeout()
+/// bounds the opening (error(), then disconnected()); ping() is answered by
+/// pong(), so a client notices a frozen server; closeCode() and closeReason()
+/// tell how the last connection ended.
 ///
 /// The client owns the web socket; deleting it closes the connection.
 /// Deleting it from one of its own slots is fine: the toolkit socket is then
@@ -36,12 +46,47 @@ public:
     /// while doing so.
     ~CKyNAWebSocket() override;
 
-    /// Opens the connection to the request's URL with its headers; the outcome
-    /// arrives as connected() or error(). The request need not outlive the call.
+    /// Opens the connection to the request's URL with its headers and its TLS
+    /// settings (trusted authorities, client certificate); the outcome arrives
+    /// as connected() or error(). The request need not outlive the call.
     void open(const CKyNANetworkRequest& request);
     /// Closes the connection with a close code and a reason; disconnected()
     /// follows.
     void close(CKyNAWebSocketProtocol::CloseCode code, const QString& reason);
+
+    /// Bounds the opening handshake of the next open() calls to @p ms
+    /// milliseconds, connection and TLS set-up included; 0 (the default) or less
+    /// leaves it unbounded. When the time runs out before connected(), the
+    /// socket reports error(5) (the toolkit's `SocketTimeoutError`) and then
+    /// disconnected(), and closeCode() reads
+    /// CKyNAWebSocketProtocol::CloseCodeAbnormalDisconnection.
+    void setHandshakeTimeout(int ms);
+    /// The bound given to setHandshakeTimeout(); 0 after construction.
+    int handshakeTimeout() const;
+
+    /// Sends a ping with up to 125 bytes of @p payload (longer ones are cut);
+    /// the peer's answer arrives as pong(). Does nothing while not connected.
+    /// A peer that stays silent after a ping is frozen or gone: the client
+    /// decides how long it waits.
+    void ping(const QByteArray& payload = QByteArray());
+
+    /// Called from a slot of sslErrors(), lets the handshake under way go on
+    /// despite every error reported. It holds for that handshake only: the
+    /// next open() reports its errors again. Anywhere else it does nothing.
+    void ignoreSslErrors();
+    /// Like ignoreSslErrors(), for the listed errors only: the handshake still
+    /// fails on any other.
+    void ignoreSslErrors(const QList<QSslError>& errors);
+
+    /// How the last connection ended, read once disconnected() is reported:
+    /// the code of the closing handshake (the peer's when the peer closed, the
+    /// one given to close() when this side did), or
+    /// CKyNAWebSocketProtocol::CloseCodeAbnormalDisconnection when it ended
+    /// without one (connection lost, refused, aborted or timed out). 0 after
+    /// construction and after each open() until the next disconnection.
+    CKyNAWebSocketProtocol::CloseCode closeCode() const;
+    /// The reason that came with closeCode(); empty when there was none.
+    QString closeReason() const;
 
     /// Emitted when the connection is open.
     CKyUISignal<void()>& connected();
@@ -52,4 +97,12 @@ public:
     CKyUISignal<void()>& disconnected();
     /// Emitted with each text message received.
     CKyUISignal<void(const QString&)>& textMessageReceived();
+    /// Emitted during the TLS handshake of a secure open() with the toolkit's
+    /// list of certificate errors, before connected(). Unless a slot calls
+    /// ignoreSslErrors(), the open fails: error() with the toolkit's
+    /// `SslHandshakeFailedError` (13), then disconnected().
+    CKyUISignal<void(const QList<QSslError>&)>& sslErrors();
+    /// Emitted when the peer answers a ping(), with the round-trip time in
+    /// milliseconds and the payload it echoed.
+    CKyUISignal<void(long long, const QByteArray&)>& pong();
 };

@@ -12,9 +12,11 @@ template <class Condition> bool waitUntil(Condition condition, int timeoutMs = 5
     elapsed.start();
     QTimer deadline;
     deadline.setSingleShot(true);
+    // A coarse timer may fire early, and the loop below would then sleep on.
+    deadline.setTimerType(Qt::PreciseTimer);
     deadline.start(timeoutMs);
     while (!condition()) {
-        if (elapsed.hasExpired(timeoutMs))
+        if (elapsed.elapsed() >= timeoutMs) // hasExpired() is false right on time
             return condition();
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }

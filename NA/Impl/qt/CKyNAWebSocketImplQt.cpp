@@ -2,7 +2,9 @@
 
 #include "NA/CKyNANetworkRequest.h"
 
+#include <QtCore/QTimer>
 #include <QtNetwork/QNetworkRequest>
+#include <QtNetwork/QSslConfiguration>
 #include <QtWebSockets/QWebSocket>
 
 static_assert(int(CKyNAWebSocketProtocol::VersionUnknown) == int(QWebSocketProtocol::VersionUnknown), "");
@@ -23,6 +25,15 @@ QWebSocket* toolkitSocket(CKyUIObject* owner)
     return qobject_cast<QWebSocket*>(owner->getHandle());
 }
 
+const char* const handshakeTimerName = "handshakeTimer";
+
+QTimer* handshakeTimer(CKyUIObject* owner)
+{
+    QWebSocket* socket = toolkitSocket(owner);
+    return socket ? socket->findChild<QTimer*>(QLatin1String(handshakeTimerName), Qt::FindDirectChildrenOnly)
+                  : nullptr;
+}
+
 } // namespace
 
 void CKyNAWebSocketImpl::CreateWebSocketImpl(const QString& origin, CKyNAWebSocketProtocol::Version version)
@@ -36,10 +47,30 @@ void CKyNAWebSocketImpl::CreateWebSocketImpl(const QString& origin, CKyNAWebSock
         socket, QOverload<QAbstractSocket::SocketError>::of(&QWebSocket::error), socket,
         [this](QAbstractSocket::SocketError code) { OnError(int(code)); }, Qt::DirectConnection);
     m_connections << QObject::connect(
-        socket, &QWebSocket::disconnected, socket, [this] { OnDisconnected(); }, Qt::DirectConnection);
+        socket, &QWebSocket::disconnected, socket,
+        [this, socket] {
+            OnDisconnected(CKyNAWebSocketProtocol::CloseCode(socket->closeCode()), socket->closeReason());
+        },
+        Qt::DirectConnection);
     m_connections << QObject::connect(
         socket, &QWebSocket::textMessageReceived, socket,
         [this](const QString& message) { OnTextMessageReceived(message); }, Qt::DirectConnection);
+    m_connections << QObject::connect(
+        socket, &QWebSocket::stateChanged, socket,
+        [this](QAbstractSocket::SocketState state) {
+            if (state == QAbstractSocket::ClosingState)
+                OnClosing();
+        },
+        Qt::DirectConnection);
+#if QT_CONFIG(ssl)
+    m_connections << QObject::connect(
+        socket, &QWebSocket::sslErrors, socket,
+        [this](const QList<QSslError>& errors) { OnSslErrors(errors); }, Qt::DirectConnection);
+#endif
+    m_connections << QObject::connect(
+        socket, &QWebSocket::pong, socket,
+        [this](quint64 elapsedMs, const QByteArray& payload) { OnPong(qint64(elapsedMs), payload); },
+        Qt::DirectConnection);
 }
 
 void CKyNAWebSocketImpl::DestroyWebSocketImpl()
@@ -64,12 +95,77 @@ void CKyNAWebSocketImpl::OpenImpl(const CKyNANetworkRequest& request)
 {
     QWebSocket* socket = toolkitSocket(owner());
     QNetworkRequest* toolkitRequest = request.getHandle();
-    if (socket && toolkitRequest)
-        socket->open(*toolkitRequest);
+    if (!socket || !toolkitRequest)
+        return;
+#if QT_CONFIG(ssl)
+    // A request without TLS settings of its own answers the process-wide
+    // default; the socket is then left (or put back) on its own default, as
+    // it always was.
+    const QSslConfiguration configuration = toolkitRequest->sslConfiguration();
+    const bool own = configuration != QSslConfiguration::defaultConfiguration();
+    if (own || !socket->sslConfiguration().isNull())
+        socket->setSslConfiguration(own ? configuration : QSslConfiguration());
+#endif
+    socket->open(*toolkitRequest);
 }
 
 void CKyNAWebSocketImpl::CloseImpl(CKyNAWebSocketProtocol::CloseCode code, const QString& reason)
 {
     if (QWebSocket* socket = toolkitSocket(owner()))
         socket->close(QWebSocketProtocol::CloseCode(code), reason);
+}
+
+void CKyNAWebSocketImpl::PingImpl(const QByteArray& payload)
+{
+    if (QWebSocket* socket = toolkitSocket(owner()))
+        socket->ping(payload);
+}
+
+void CKyNAWebSocketImpl::IgnoreSslErrorsImpl()
+{
+#if QT_CONFIG(ssl)
+    if (QWebSocket* socket = toolkitSocket(owner()))
+        socket->ignoreSslErrors();
+#endif
+}
+
+void CKyNAWebSocketImpl::IgnoreSslErrorsImpl(const QList<QSslError>& errors)
+{
+#if QT_CONFIG(ssl)
+    if (QWebSocket* socket = toolkitSocket(owner()))
+        socket->ignoreSslErrors(errors);
+#else
+    Q_UNUSED(errors)
+#endif
+}
+
+void CKyNAWebSocketImpl::StartHandshakeTimerImpl()
+{
+    QWebSocket* socket = toolkitSocket(owner());
+    if (!socket)
+        return;
+    // Made on the first bounded open only: a socket without the option
+    // carries no timer.
+    QTimer* timer = handshakeTimer(owner());
+    if (!timer) {
+        timer = new QTimer(socket);
+        timer->setObjectName(QLatin1String(handshakeTimerName));
+        timer->setSingleShot(true);
+        m_connections << QObject::connect(
+            timer, &QTimer::timeout, socket,
+            [this] { OnHandshakeTimeout(int(QAbstractSocket::SocketTimeoutError)); }, Qt::DirectConnection);
+    }
+    timer->start(m_handshakeTimeout);
+}
+
+void CKyNAWebSocketImpl::StopHandshakeTimerImpl()
+{
+    if (QTimer* timer = handshakeTimer(owner()))
+        timer->stop();
+}
+
+void CKyNAWebSocketImpl::AbortImpl()
+{
+    if (QWebSocket* socket = toolkitSocket(owner()))
+        socket->abort();
 }

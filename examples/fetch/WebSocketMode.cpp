@@ -1,0 +1,116 @@
+#include "WebSocketMode.h"
+
+#include "NA/CKyNANetworkRequest.h"
+#include "NA/CKyNAWebSocket.h"
+
+#include <QtCore/QCommandLineParser>
+#include <QtCore/QEventLoop>
+#include <QtCore/QTextStream>
+#include <QtCore/QTimer>
+#include <QtCore/QUrl>
+
+namespace
+{
+
+const QCommandLineOption messagesOption(QStringLiteral("messages"),
+                                        QStringLiteral("Web socket: close after N text messages."),
+                                        QStringLiteral("N"));
+const QCommandLineOption forOption(QStringLiteral("for"),
+                                   QStringLiteral("Web socket: close after MS milliseconds."),
+                                   QStringLiteral("MS"));
+const QCommandLineOption pingOption(QStringLiteral("ping"),
+                                    QStringLiteral("Web socket: ping every MS milliseconds and give up on a "
+                                                   "server that leaves a ping unanswered until the next."),
+                                    QStringLiteral("MS"));
+const QCommandLineOption insecureOption(QStringLiteral("insecure"),
+                                        QStringLiteral("Go on despite certificate errors."));
+
+int number(const QCommandLineParser& parser, const QCommandLineOption& option)
+{
+    return parser.isSet(option) ? parser.value(option).toInt() : 0;
+}
+
+void printLine(QTextStream& stream, const QString& text)
+{
+    stream << text << '\n';
+    stream.flush();
+}
+
+} // namespace
+
+void addWebSocketOptions(QCommandLineParser& parser)
+{
+    parser.addOptions({messagesOption, forOption, pingOption, insecureOption});
+}
+
+bool isWebSocketUrl(const QUrl& url)
+{
+    return url.scheme() == QLatin1String("ws") || url.scheme() == QLatin1String("wss");
+}
+
+int runWebSocket(const QCommandLineParser& parser, const CKyNANetworkRequest& request, int handshakeTimeoutMs)
+{
+    const int messages = number(parser, messagesOption);
+    const int pingMs = number(parser, pingOption);
+    QTextStream out(stdout);
+    QTextStream err(stderr);
+    bool failed = false;
+    int received = 0;
+    bool awaitingPong = false;
+    bool done = false;
+
+    CKyNAWebSocket socket(QString(), CKyNAWebSocketProtocol::VersionLatest);
+    const auto stop = [&socket] {
+        socket.close(CKyNAWebSocketProtocol::CloseCodeNormal, QStringLiteral("done"));
+    };
+    QTimer pinger;
+    QObject::connect(&pinger, &QTimer::timeout, [&] {
+        if (awaitingPong) {
+            printLine(err, QStringLiteral("fetch: no pong within %1 ms").arg(pingMs));
+            failed = true;
+            socket.close(CKyNAWebSocketProtocol::CloseCodeGoingAway, QStringLiteral("no pong"));
+            return;
+        }
+        awaitingPong = true;
+        socket.ping();
+    });
+
+    QEventLoop loop;
+    socket.sslErrors().connect([&](const QList<QSslError>& errors) {
+        if (parser.isSet(insecureOption)) {
+            socket.ignoreSslErrors();
+            return;
+        }
+        for (const QSslError& error : errors)
+            printLine(err, QStringLiteral("fetch: ") + error.errorString());
+    });
+    socket.connected().connect([&] {
+        if (pingMs > 0)
+            pinger.start(pingMs);
+        if (number(parser, forOption) > 0)
+            QTimer::singleShot(number(parser, forOption), &loop, stop);
+    });
+    socket.textMessageReceived().connect([&](const QString& message) {
+        printLine(out, message);
+        if (++received == messages)
+            stop();
+    });
+    socket.pong().connect([&](long long, const QByteArray&) { awaitingPong = false; });
+    socket.error().connect([&](int code) {
+        printLine(err, QStringLiteral("fetch: web socket error %1").arg(code));
+        failed = true;
+    });
+    socket.disconnected().connect([&] {
+        pinger.stop();
+        printLine(out, QStringLiteral("close: %1 %2").arg(int(socket.closeCode())).arg(socket.closeReason()));
+        done = true;
+        loop.quit();
+    });
+
+    socket.setHandshakeTimeout(handshakeTimeoutMs);
+    socket.open(request);
+    // A request the toolkit refuses at once reports error() alone.
+    if (!done && !failed)
+        loop.exec();
+    return failed || socket.closeCode() != CKyNAWebSocketProtocol::CloseCodeNormal ? 1 : 0;
+}

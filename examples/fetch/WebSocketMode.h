@@ -1,0 +1,16 @@
+#pragma once
+
+// fetch's web-socket mode: a ws:// or wss:// URL opens a web socket that
+// sends nothing, prints each text message received on its own line and, when
+// the connection ends, "close: CODE REASON".
+
+class CKyNANetworkRequest;
+class QCommandLineParser;
+class QUrl;
+
+void addWebSocketOptions(QCommandLineParser& parser);
+bool isWebSocketUrl(const QUrl& url);
+// Runs until the connection ends. Exits with 0 after a normal closure (1000),
+// with 1 after an error, a silent peer or any other close code.
+int runWebSocket(const QCommandLineParser& parser, const CKyNANetworkRequest& request,
+                 int handshakeTimeoutMs);
