@@ -31,6 +31,24 @@ public:
 
     void setRequestTimeout(int ms);
     int requestTimeout() const;
+    void setInactivityTimeout(int ms);
+    int inactivityTimeout() const { return m_inactivityTimeout; }
+
+    void setCaCertificates(const QList<QSslCertificate>& certificates);
+    QList<QSslCertificate> caCertificates() const { return m_caCertificates; }
+    void setClientCertificate(const QSslCertificate& certificate, const QSslKey& key);
+    QSslCertificate clientCertificate() const { return m_clientCertificate; }
+    QSslKey clientKey() const { return m_clientKey; }
+
+    void setFollowRedirects(bool follow);
+    bool followRedirects() const { return m_followRedirects; }
+    void setMaximumRedirects(int count);
+    int maximumRedirects() const { return m_maximumRedirects; }
+    void setAllowInsecureRedirects(bool allow);
+    bool allowInsecureRedirects() const { return m_allowInsecureRedirects; }
+
+    void setStreaming(bool streaming);
+    bool streaming() const { return m_streaming; }
 
     // The name under which a known header travels; null for codes without one.
     static QByteArray GetKnowHeaderName(CKyNANetworkRequest::KnownHeaders header);
@@ -40,6 +58,8 @@ public:
     void SetUrlImpl(const QUrl& url);
     void SetHeaderImpl(CKyNANetworkRequest::KnownHeaders header, const QVariant& value);
     void SetRawHeaderImpl(const QByteArray& name, const QByteArray& value);
+    void SetSslConfigurationImpl();
+    void SetRedirectPolicyImpl();
 
     CKyNANetworkRequest* owner() const { return m_owner; }
 
@@ -49,4 +69,12 @@ private:
     QUrl m_url;
     QMap<int, QVariant> m_knownHeaders;
     QMap<QByteArray, QByteArray> m_rawHeaders;
+    int m_inactivityTimeout = 0;
+    QList<QSslCertificate> m_caCertificates;
+    QSslCertificate m_clientCertificate;
+    QSslKey m_clientKey;
+    bool m_followRedirects = false;
+    int m_maximumRedirects = 10;
+    bool m_allowInsecureRedirects = false;
+    bool m_streaming = false;
 };
