@@ -76,9 +76,18 @@ void CKyNANetworkRequestImpl::setCaCertificates(const QList<QSslCertificate>& ce
 
 void CKyNANetworkRequestImpl::setClientCertificate(const QSslCertificate& certificate, const QSslKey& key)
 {
-    m_clientCertificate = certificate;
-    m_clientKey = key;
+    m_client.reset(new QPair<QSslCertificate, QSslKey>(certificate, key));
     SetSslConfigurationImpl();
+}
+
+QSslCertificate CKyNANetworkRequestImpl::clientCertificate() const
+{
+    return m_client ? m_client->first : QSslCertificate();
+}
+
+QSslKey CKyNANetworkRequestImpl::clientKey() const
+{
+    return m_client ? m_client->second : QSslKey();
 }
 
 void CKyNANetworkRequestImpl::setFollowRedirects(bool follow)

@@ -5,8 +5,11 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QList>
 #include <QtCore/QMap>
+#include <QtCore/QPair>
 #include <QtCore/QUrl>
 #include <QtCore/QVariant>
+
+#include <memory>
 
 // Bookkeeping of a request: the maps answer the getters, the toolkit request
 // carries the same values to the toolkit.
@@ -37,8 +40,8 @@ public:
     void setCaCertificates(const QList<QSslCertificate>& certificates);
     QList<QSslCertificate> caCertificates() const { return m_caCertificates; }
     void setClientCertificate(const QSslCertificate& certificate, const QSslKey& key);
-    QSslCertificate clientCertificate() const { return m_clientCertificate; }
-    QSslKey clientKey() const { return m_clientKey; }
+    QSslCertificate clientCertificate() const;
+    QSslKey clientKey() const;
 
     void setFollowRedirects(bool follow);
     bool followRedirects() const { return m_followRedirects; }
@@ -71,8 +74,9 @@ private:
     QMap<QByteArray, QByteArray> m_rawHeaders;
     int m_inactivityTimeout = 0;
     QList<QSslCertificate> m_caCertificates;
-    QSslCertificate m_clientCertificate;
-    QSslKey m_clientKey;
+    // Made only when set: constructing either value starts the toolkit's TLS
+    // library, which a plain HTTP client should never pay for.
+    std::unique_ptr<QPair<QSslCertificate, QSslKey>> m_client;
     bool m_followRedirects = false;
     int m_maximumRedirects = 10;
     bool m_allowInsecureRedirects = false;

@@ -67,8 +67,10 @@ void CKyNANetworkRequestImpl::SetSslConfigurationImpl()
     QSslConfiguration configuration = QSslConfiguration::defaultConfiguration();
     if (!m_caCertificates.isEmpty())
         configuration.setCaCertificates(QSslConfiguration::systemCaCertificates() + m_caCertificates);
-    configuration.setLocalCertificate(m_clientCertificate);
-    configuration.setPrivateKey(m_clientKey);
+    if (m_client) {
+        configuration.setLocalCertificate(m_client->first);
+        configuration.setPrivateKey(m_client->second);
+    }
     request->setSslConfiguration(configuration);
 }
 
