@@ -38,3 +38,15 @@ CKyNANetworkReply* CKyNANetworkAccessManager::deleteResource(const CKyNANetworkR
 {
     return implAs<CKyNANetworkAccessManagerImpl>()->deleteResource(request);
 }
+
+CKyNANetworkReply* CKyNANetworkAccessManager::head(const CKyNANetworkRequest& request)
+{
+    return implAs<CKyNANetworkAccessManagerImpl>()->head(request);
+}
+
+CKyNANetworkReply* CKyNANetworkAccessManager::sendCustomRequest(const CKyNANetworkRequest& request,
+                                                                const QByteArray& verb,
+                                                                const QByteArray& body)
+{
+    return implAs<CKyNANetworkAccessManagerImpl>()->sendCustomRequest(request, verb, body);
+}

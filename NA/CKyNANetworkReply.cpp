@@ -118,3 +118,33 @@ CKyUISignal<void()>& CKyNANetworkReply::finished()
 {
     return implAs<CKyNANetworkReplyImpl>()->finished;
 }
+
+QByteArray CKyNANetworkReply::read(long long maxSize)
+{
+    return implAs<CKyNANetworkReplyImpl>()->read(maxSize);
+}
+
+QUrl CKyNANetworkReply::url() const
+{
+    return implAs<CKyNANetworkReplyImpl>()->url();
+}
+
+void CKyNANetworkReply::ignoreSslErrors()
+{
+    implAs<CKyNANetworkReplyImpl>()->ignoreSslErrors();
+}
+
+void CKyNANetworkReply::ignoreSslErrors(const QList<QSslError>& errors)
+{
+    implAs<CKyNANetworkReplyImpl>()->ignoreSslErrors(errors);
+}
+
+CKyUISignal<void(const QList<QSslError>&)>& CKyNANetworkReply::sslErrors()
+{
+    return implAs<CKyNANetworkReplyImpl>()->sslErrors;
+}
+
+CKyUISignal<void()>& CKyNANetworkReply::readyRead()
+{
+    return implAs<CKyNANetworkReplyImpl>()->readyRead;
+}

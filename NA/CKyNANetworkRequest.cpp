@@ -86,3 +86,78 @@ void CKyNANetworkRequest::setHandle(QNetworkRequest* handle)
 {
     m_handle = handle;
 }
+
+void CKyNANetworkRequest::setInactivityTimeout(int ms)
+{
+    m_impl->setInactivityTimeout(ms);
+}
+
+int CKyNANetworkRequest::inactivityTimeout() const
+{
+    return m_impl->inactivityTimeout();
+}
+
+void CKyNANetworkRequest::setCaCertificates(const QList<QSslCertificate>& certificates)
+{
+    m_impl->setCaCertificates(certificates);
+}
+
+QList<QSslCertificate> CKyNANetworkRequest::caCertificates() const
+{
+    return m_impl->caCertificates();
+}
+
+void CKyNANetworkRequest::setClientCertificate(const QSslCertificate& certificate, const QSslKey& key)
+{
+    m_impl->setClientCertificate(certificate, key);
+}
+
+QSslCertificate CKyNANetworkRequest::clientCertificate() const
+{
+    return m_impl->clientCertificate();
+}
+
+QSslKey CKyNANetworkRequest::clientKey() const
+{
+    return m_impl->clientKey();
+}
+
+void CKyNANetworkRequest::setFollowRedirects(bool follow)
+{
+    m_impl->setFollowRedirects(follow);
+}
+
+bool CKyNANetworkRequest::followRedirects() const
+{
+    return m_impl->followRedirects();
+}
+
+void CKyNANetworkRequest::setMaximumRedirects(int count)
+{
+    m_impl->setMaximumRedirects(count);
+}
+
+int CKyNANetworkRequest::maximumRedirects() const
+{
+    return m_impl->maximumRedirects();
+}
+
+void CKyNANetworkRequest::setAllowInsecureRedirects(bool allow)
+{
+    m_impl->setAllowInsecureRedirects(allow);
+}
+
+bool CKyNANetworkRequest::allowInsecureRedirects() const
+{
+    return m_impl->allowInsecureRedirects();
+}
+
+void CKyNANetworkRequest::setStreaming(bool streaming)
+{
+    m_impl->setStreaming(streaming);
+}
+
+bool CKyNANetworkRequest::streaming() const
+{
+    return m_impl->streaming();
+}

@@ -44,3 +44,15 @@ CKyNANetworkReply* CKyNANetworkAccessManagerImpl::deleteResource(const CKyNANetw
 {
     return DeleteResourceImpl(request);
 }
+
+CKyNANetworkReply* CKyNANetworkAccessManagerImpl::head(const CKyNANetworkRequest& request)
+{
+    return HeadImpl(request);
+}
+
+CKyNANetworkReply* CKyNANetworkAccessManagerImpl::sendCustomRequest(const CKyNANetworkRequest& request,
+                                                                    const QByteArray& verb,
+                                                                    const QByteArray& body)
+{
+    return SendCustomRequestImpl(request, verb, body);
+}

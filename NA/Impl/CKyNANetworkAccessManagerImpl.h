@@ -24,6 +24,9 @@ public:
     CKyNANetworkReply* put(const CKyNANetworkRequest& request, QIODevice* data);
     CKyNANetworkReply* put(const CKyNANetworkRequest& request, const QByteArray& data);
     CKyNANetworkReply* deleteResource(const CKyNANetworkRequest& request);
+    CKyNANetworkReply* head(const CKyNANetworkRequest& request);
+    CKyNANetworkReply* sendCustomRequest(const CKyNANetworkRequest& request, const QByteArray& verb,
+                                         const QByteArray& body);
 
     // Toolkit steps.
     void CreateNetworkAccessManagerImpl();
@@ -34,4 +37,7 @@ public:
     CKyNANetworkReply* PutImpl(const CKyNANetworkRequest& request, QIODevice* data);
     CKyNANetworkReply* PutImpl(const CKyNANetworkRequest& request, const QByteArray& data);
     CKyNANetworkReply* DeleteResourceImpl(const CKyNANetworkRequest& request);
+    CKyNANetworkReply* HeadImpl(const CKyNANetworkRequest& request);
+    CKyNANetworkReply* SendCustomRequestImpl(const CKyNANetworkRequest& request, const QByteArray& verb,
+                                             const QByteArray& body);
 };

@@ -20,6 +20,8 @@ CKyNANetworkReplyImpl::CKyNANetworkReplyImpl(CKyNANetworkReply* owner, QObject* 
     , encrypted(owner)
     , error(owner)
     , finished(owner)
+    , sslErrors(owner)
+    , readyRead(owner)
     , m_headerPairs(g_emptyHeaderPairs)
 {
     owner->setHandle(reply);
@@ -52,24 +54,60 @@ QString CKyNANetworkReplyImpl::errorString() const
     return ErrorStringImpl();
 }
 
+QIODevice* CKyNANetworkReplyImpl::OpenDevice() const
+{
+    return m_device && m_device->isOpen() ? m_device : nullptr;
+}
+
 long long CKyNANetworkReplyImpl::bytesAvailable() const
 {
-    return m_device ? m_device->bytesAvailable() : 0;
+    QIODevice* device = OpenDevice();
+    return device ? device->bytesAvailable() : 0;
 }
 
 QByteArray CKyNANetworkReplyImpl::readAll()
 {
-    return m_device ? m_device->readAll() : QByteArray();
+    QIODevice* device = OpenDevice();
+    return device ? device->readAll() : QByteArray();
 }
 
 long long CKyNANetworkReplyImpl::pos() const
 {
-    return m_device ? m_device->pos() : 0;
+    QIODevice* device = OpenDevice();
+    return device ? device->pos() : 0;
 }
 
 bool CKyNANetworkReplyImpl::seek(long long pos)
 {
-    return m_device ? m_device->seek(pos) : false;
+    // A toolkit reply cannot seek; asking would only print a warning.
+    QIODevice* device = OpenDevice();
+    return device && !device->isSequential() ? device->seek(pos) : false;
+}
+
+QByteArray CKyNANetworkReplyImpl::read(long long maxSize)
+{
+    QIODevice* device = OpenDevice();
+    return device && maxSize > 0 ? device->read(maxSize) : QByteArray();
+}
+
+QUrl CKyNANetworkReplyImpl::url() const
+{
+    return UrlImpl();
+}
+
+void CKyNANetworkReplyImpl::ignoreSslErrors()
+{
+    IgnoreSslErrorsImpl(nullptr);
+}
+
+void CKyNANetworkReplyImpl::ignoreSslErrors(const QList<QSslError>& errors)
+{
+    IgnoreSslErrorsImpl(&errors);
+}
+
+void CKyNANetworkReplyImpl::StartStreaming()
+{
+    StartStreamingImpl();
 }
 
 QVariant CKyNANetworkReplyImpl::attribute(CKyNANetworkRequest::Attribute code) const
@@ -148,4 +186,14 @@ void CKyNANetworkReplyImpl::OnFinished(int status, const HeaderPairs& pairs, QIO
     }
     m_httpStatusCode = status;
     finished.Emit();
+}
+
+void CKyNANetworkReplyImpl::OnSslErrors(const QList<QSslError>& errors)
+{
+    sslErrors.Emit(errors);
+}
+
+void CKyNANetworkReplyImpl::OnReadyRead()
+{
+    readyRead.Emit();
 }

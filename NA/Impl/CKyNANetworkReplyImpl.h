@@ -33,6 +33,13 @@ public:
     QByteArray readAll();
     long long pos() const;
     bool seek(long long pos);
+    QByteArray read(long long maxSize);
+    QUrl url() const;
+
+    void ignoreSslErrors();
+    void ignoreSslErrors(const QList<QSslError>& errors);
+    // Called by the manager for a streaming request, right after the start.
+    void StartStreaming();
 
     QVariant attribute(CKyNANetworkRequest::Attribute code) const;
 
@@ -52,6 +59,9 @@ public:
     QString ErrorStringImpl() const;
     QVariant AttributeImpl(CKyNANetworkRequest::Attribute code) const;
     void AbortImpl();
+    QUrl UrlImpl() const;
+    void IgnoreSslErrorsImpl(const QList<QSslError>* errors);
+    void StartStreamingImpl();
 
     // Reactions to the toolkit reply.
     void OnDownloadProgress(long long received, long long total);
@@ -59,16 +69,23 @@ public:
     void OnEncrypted();
     void OnError(CKyNANetworkReply::NetworkError code, QIODevice* device);
     void OnFinished(int status, const HeaderPairs& pairs, QIODevice* device);
+    void OnSslErrors(const QList<QSslError>& errors);
+    void OnReadyRead();
 
     CKyUISignal<void(long long, long long)> downloadProgress;
     CKyUISignal<void(long long, long long)> uploadProgress;
     CKyUISignal<void()> encrypted;
     CKyUISignal<void(CKyNANetworkReply::NetworkError)> error;
     CKyUISignal<void()> finished;
+    CKyUISignal<void(const QList<QSslError>&)> sslErrors;
+    CKyUISignal<void()> readyRead;
 
 private:
     // Index of a name among the distinct names received, -1 if absent.
     int HeaderIndex(const QByteArray& name) const;
+    // The device while it can be read: a failed or aborted toolkit reply is
+    // closed, and reading it would make the toolkit complain.
+    QIODevice* OpenDevice() const;
 
     const CKyNANetworkRequest* m_request = nullptr;
     bool m_finished = false;

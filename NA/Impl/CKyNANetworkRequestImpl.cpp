@@ -63,6 +63,56 @@ int CKyNANetworkRequestImpl::requestTimeout() const
     return m_requestTimeout;
 }
 
+void CKyNANetworkRequestImpl::setInactivityTimeout(int ms)
+{
+    m_inactivityTimeout = ms;
+}
+
+void CKyNANetworkRequestImpl::setCaCertificates(const QList<QSslCertificate>& certificates)
+{
+    m_caCertificates = certificates;
+    SetSslConfigurationImpl();
+}
+
+void CKyNANetworkRequestImpl::setClientCertificate(const QSslCertificate& certificate, const QSslKey& key)
+{
+    m_client.reset(new QPair<QSslCertificate, QSslKey>(certificate, key));
+    SetSslConfigurationImpl();
+}
+
+QSslCertificate CKyNANetworkRequestImpl::clientCertificate() const
+{
+    return m_client ? m_client->first : QSslCertificate();
+}
+
+QSslKey CKyNANetworkRequestImpl::clientKey() const
+{
+    return m_client ? m_client->second : QSslKey();
+}
+
+void CKyNANetworkRequestImpl::setFollowRedirects(bool follow)
+{
+    m_followRedirects = follow;
+    SetRedirectPolicyImpl();
+}
+
+void CKyNANetworkRequestImpl::setMaximumRedirects(int count)
+{
+    m_maximumRedirects = count;
+    SetRedirectPolicyImpl();
+}
+
+void CKyNANetworkRequestImpl::setAllowInsecureRedirects(bool allow)
+{
+    m_allowInsecureRedirects = allow;
+    SetRedirectPolicyImpl();
+}
+
+void CKyNANetworkRequestImpl::setStreaming(bool streaming)
+{
+    m_streaming = streaming;
+}
+
 QByteArray CKyNANetworkRequestImpl::GetKnowHeaderName(CKyNANetworkRequest::KnownHeaders header)
 {
     switch (int(header)) {

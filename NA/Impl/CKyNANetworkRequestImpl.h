@@ -5,8 +5,11 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QList>
 #include <QtCore/QMap>
+#include <QtCore/QPair>
 #include <QtCore/QUrl>
 #include <QtCore/QVariant>
+
+#include <memory>
 
 // Bookkeeping of a request: the maps answer the getters, the toolkit request
 // carries the same values to the toolkit.
@@ -31,6 +34,24 @@ public:
 
     void setRequestTimeout(int ms);
     int requestTimeout() const;
+    void setInactivityTimeout(int ms);
+    int inactivityTimeout() const { return m_inactivityTimeout; }
+
+    void setCaCertificates(const QList<QSslCertificate>& certificates);
+    QList<QSslCertificate> caCertificates() const { return m_caCertificates; }
+    void setClientCertificate(const QSslCertificate& certificate, const QSslKey& key);
+    QSslCertificate clientCertificate() const;
+    QSslKey clientKey() const;
+
+    void setFollowRedirects(bool follow);
+    bool followRedirects() const { return m_followRedirects; }
+    void setMaximumRedirects(int count);
+    int maximumRedirects() const { return m_maximumRedirects; }
+    void setAllowInsecureRedirects(bool allow);
+    bool allowInsecureRedirects() const { return m_allowInsecureRedirects; }
+
+    void setStreaming(bool streaming);
+    bool streaming() const { return m_streaming; }
 
     // The name under which a known header travels; null for codes without one.
     static QByteArray GetKnowHeaderName(CKyNANetworkRequest::KnownHeaders header);
@@ -40,6 +61,8 @@ public:
     void SetUrlImpl(const QUrl& url);
     void SetHeaderImpl(CKyNANetworkRequest::KnownHeaders header, const QVariant& value);
     void SetRawHeaderImpl(const QByteArray& name, const QByteArray& value);
+    void SetSslConfigurationImpl();
+    void SetRedirectPolicyImpl();
 
     CKyNANetworkRequest* owner() const { return m_owner; }
 
@@ -49,4 +72,13 @@ private:
     QUrl m_url;
     QMap<int, QVariant> m_knownHeaders;
     QMap<QByteArray, QByteArray> m_rawHeaders;
+    int m_inactivityTimeout = 0;
+    QList<QSslCertificate> m_caCertificates;
+    // Made only when set: constructing either value starts the toolkit's TLS
+    // library, which a plain HTTP client should never pay for.
+    std::unique_ptr<QPair<QSslCertificate, QSslKey>> m_client;
+    bool m_followRedirects = false;
+    int m_maximumRedirects = 10;
+    bool m_allowInsecureRedirects = false;
+    bool m_streaming = false;
 };

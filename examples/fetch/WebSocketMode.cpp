@@ -22,8 +22,6 @@ const QCommandLineOption pingOption(QStringLiteral("ping"),
                                     QStringLiteral("Web socket: ping every MS milliseconds and give up on a "
                                                    "server that leaves a ping unanswered until the next."),
                                     QStringLiteral("MS"));
-const QCommandLineOption insecureOption(QStringLiteral("insecure"),
-                                        QStringLiteral("Go on despite certificate errors."));
 
 int number(const QCommandLineParser& parser, const QCommandLineOption& option)
 {
@@ -40,7 +38,8 @@ void printLine(QTextStream& stream, const QString& text)
 
 void addWebSocketOptions(QCommandLineParser& parser)
 {
-    parser.addOptions({messagesOption, forOption, pingOption, insecureOption});
+    // --insecure is the HTTP mode's option, read here by name.
+    parser.addOptions({messagesOption, forOption, pingOption});
 }
 
 bool isWebSocketUrl(const QUrl& url)
@@ -77,7 +76,7 @@ int runWebSocket(const QCommandLineParser& parser, const CKyNANetworkRequest& re
 
     QEventLoop loop;
     socket.sslErrors().connect([&](const QList<QSslError>& errors) {
-        if (parser.isSet(insecureOption)) {
+        if (parser.isSet(QStringLiteral("insecure"))) {
             socket.ignoreSslErrors();
             return;
         }

@@ -1,12 +1,14 @@
-// fetch URL [--timeout MS] [--method GET|POST|PUT|DELETE] [--data TEXT]
-//           [--header 'Name: value']... [--body]
+// fetch URL [--timeout MS] [--method VERB] [--head] [--data TEXT]
+//           [--header 'Name: value']... [--body] [--output FILE]
+//           [--cacert FILE] [--insecure] [--location]
 // fetch ws[s]://... [--timeout MS] [--header 'Name: value']... [--messages N]
-//           [--for MS] [--ping MS] [--insecure]
+//           [--for MS] [--ping MS] [--insecure] [--cacert FILE]
 //
 // Sends one request through CKyNANetworkAccessManager and prints the status
-// code, the received headers and the body size (or the body itself). Exits
-// with 1 and the error code and text when the transfer fails or times out,
-// with 2 on a usage error.
+// code, the received headers and the body size (or the body itself, or
+// streams it into a file with a progress bar on a terminal). Exits with 1 and
+// the error code and text when the transfer fails or times out, with 2 on a
+// usage error.
 
 #include "NA/CKyNANetworkAccessManager.h"
 #include "NA/CKyNANetworkReply.h"
@@ -16,11 +18,14 @@
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QCoreApplication>
 #include <QtCore/QEventLoop>
+#include <QtCore/QFile>
 #include <QtCore/QTextStream>
 #include <QtCore/QUrl>
 
 #include <cstdio>
 #include <memory>
+
+#include <unistd.h>
 
 namespace
 {
@@ -30,6 +35,20 @@ int usageError(const QCommandLineParser& parser, const QString& message)
     QTextStream err(stderr);
     err << "fetch: " << message << "\n\n" << parser.helpText();
     return 2;
+}
+
+// One line on stderr, redrawn in place: a bar when the size is known.
+void drawProgress(long long received, long long total)
+{
+    QTextStream err(stderr);
+    if (total > 0) {
+        const int width = 40;
+        const int done = int(received * width / total);
+        err << "\r[" << QString(done, QLatin1Char('#')) << QString(width - done, QLatin1Char(' ')) << "] "
+            << received * 100 / total << "% " << received / 1024 << "/" << total / 1024 << " KiB";
+    } else {
+        err << "\r" << received / 1024 << " KiB";
+    }
 }
 
 } // namespace
@@ -46,9 +65,11 @@ int main(int argc, char** argv)
     const QCommandLineOption timeoutOption(QStringLiteral("timeout"),
                                            QStringLiteral("Abort after MS milliseconds (default 30000)."),
                                            QStringLiteral("MS"));
-    const QCommandLineOption methodOption(QStringLiteral("method"),
-                                          QStringLiteral("GET, POST, PUT or DELETE."),
-                                          QStringLiteral("METHOD"), QStringLiteral("GET"));
+    const QCommandLineOption methodOption(
+        QStringLiteral("method"),
+        QStringLiteral("GET, POST, PUT, DELETE, HEAD or any other verb (PATCH, ...)."),
+        QStringLiteral("METHOD"), QStringLiteral("GET"));
+    const QCommandLineOption headOption(QStringLiteral("head"), QStringLiteral("Send a HEAD request."));
     const QCommandLineOption dataOption(QStringLiteral("data"), QStringLiteral("Body sent with POST or PUT."),
                                         QStringLiteral("TEXT"));
     const QCommandLineOption headerOption(QStringLiteral("header"),
@@ -56,7 +77,18 @@ int main(int argc, char** argv)
                                           QStringLiteral("HEADER"));
     const QCommandLineOption bodyOption(QStringLiteral("body"),
                                         QStringLiteral("Print the body, not its size."));
-    parser.addOptions({timeoutOption, methodOption, dataOption, headerOption, bodyOption});
+    const QCommandLineOption outputOption(QStringLiteral("output"),
+                                          QStringLiteral("Stream the body into FILE as it arrives."),
+                                          QStringLiteral("FILE"));
+    const QCommandLineOption cacertOption(QStringLiteral("cacert"),
+                                          QStringLiteral("Also trust the authorities in this PEM file."),
+                                          QStringLiteral("FILE"));
+    const QCommandLineOption insecureOption(QStringLiteral("insecure"),
+                                            QStringLiteral("Accept any server certificate."));
+    const QCommandLineOption locationOption(QStringLiteral("location"),
+                                            QStringLiteral("Follow redirects (never from https to http)."));
+    parser.addOptions({timeoutOption, methodOption, headOption, dataOption, headerOption, bodyOption,
+                       outputOption, cacertOption, insecureOption, locationOption});
     addWebSocketOptions(parser);
     parser.process(application);
 
@@ -66,10 +98,10 @@ int main(int argc, char** argv)
     if (!url.isValid())
         return usageError(parser, QStringLiteral("not a URL: %1").arg(parser.positionalArguments().first()));
 
-    const QString method = parser.value(methodOption).toUpper();
-    if (method != QLatin1String("GET") && method != QLatin1String("POST") && method != QLatin1String("PUT") &&
-        method != QLatin1String("DELETE"))
-        return usageError(parser, QStringLiteral("unknown method: %1").arg(method));
+    const QString method =
+        parser.isSet(headOption) ? QStringLiteral("HEAD") : parser.value(methodOption).toUpper();
+    if (method.isEmpty() || method.contains(QLatin1Char(' ')))
+        return usageError(parser, QStringLiteral("not a method: '%1'").arg(method));
 
     CKyNANetworkRequest request(url);
     if (parser.isSet(timeoutOption)) {
@@ -85,8 +117,24 @@ int main(int argc, char** argv)
             return usageError(parser, QStringLiteral("a header reads 'Name: value': %1").arg(header));
         request.setRawHeader(header.left(colon).trimmed().toUtf8(), header.mid(colon + 1).trimmed().toUtf8());
     }
+    if (parser.isSet(cacertOption)) {
+        const QList<QSslCertificate> authorities = QSslCertificate::fromPath(parser.value(cacertOption));
+        if (authorities.isEmpty())
+            return usageError(parser,
+                              QStringLiteral("no PEM certificate in %1").arg(parser.value(cacertOption)));
+        request.setCaCertificates(authorities);
+    }
     if (isWebSocketUrl(url))
         return runWebSocket(parser, request, request.requestTimeout() > 0 ? request.requestTimeout() : 30000);
+    request.setFollowRedirects(parser.isSet(locationOption));
+    std::unique_ptr<QFile> output;
+    if (parser.isSet(outputOption)) {
+        output.reset(new QFile(parser.value(outputOption)));
+        if (!output->open(QIODevice::WriteOnly))
+            return usageError(
+                parser, QStringLiteral("cannot write %1: %2").arg(output->fileName(), output->errorString()));
+        request.setStreaming(true);
+    }
     const QByteArray data = parser.value(dataOption).toUtf8();
     if (parser.isSet(dataOption) && !request.rawHeader("Content-Type").isValid())
         request.setHeader(CKyNANetworkRequest::ContentTypeHeader, QByteArray("text/plain; charset=utf-8"));
@@ -100,15 +148,47 @@ int main(int argc, char** argv)
         reply.reset(manager.post(request, data));
     else if (method == QLatin1String("PUT"))
         reply.reset(manager.put(request, data));
-    else
+    else if (method == QLatin1String("DELETE"))
         reply.reset(manager.deleteResource(request));
+    else if (method == QLatin1String("HEAD"))
+        reply.reset(manager.head(request));
+    else
+        reply.reset(manager.sendCustomRequest(request, method.toUtf8(), data));
     if (!reply)
         return 1;
+
+    const bool insecure = parser.isSet(insecureOption);
+    CKyNANetworkReply* started = reply.get();
+    started->sslErrors().connect([started, insecure](const QList<QSslError>& errors) {
+        QTextStream err(stderr);
+        for (const QSslError& error : errors)
+            err << "fetch: " << (insecure ? "ignored: " : "") << error.errorString() << '\n';
+        if (insecure)
+            started->ignoreSslErrors();
+    });
+    long long written = 0;
+    bool progressShown = false;
+    if (output) {
+        QFile* file = output.get();
+        // Taken in pieces as it arrives, so a large body never sits in memory.
+        started->readyRead().connect([started, file, &written] {
+            for (QByteArray chunk = started->read(1 << 16); !chunk.isEmpty(); chunk = started->read(1 << 16))
+                written += file->write(chunk);
+        });
+        if (::isatty(STDERR_FILENO)) {
+            started->downloadProgress().connect([&progressShown](long long received, long long total) {
+                progressShown = true;
+                drawProgress(received, total);
+            });
+        }
+    }
 
     QEventLoop loop;
     reply->finished().connect([&loop] { loop.quit(); });
     if (!reply->isFinished())
         loop.exec();
+    if (progressShown)
+        QTextStream(stderr) << '\n';
 
     // Without a status nothing came back (refused, timed out, ...): only the
     // error is worth printing.
@@ -116,10 +196,15 @@ int main(int argc, char** argv)
     if (status.isValid()) {
         QTextStream out(stdout);
         out << "status: " << status.toInt() << '\n';
+        if (parser.isSet(locationOption))
+            out << "url: " << reply->url().toString() << '\n';
         for (const auto& pair : reply->rawHeaderPairs())
             out << pair.first << ": " << pair.second << '\n';
         const QByteArray body = reply->bytesAvailable() > 0 ? reply->readAll() : QByteArray();
-        if (parser.isSet(bodyOption)) {
+        if (output) {
+            written += output->write(body);
+            out << "body: " << written << " bytes written to " << output->fileName() << '\n';
+        } else if (parser.isSet(bodyOption)) {
             out << '\n';
             out.flush();
             std::fwrite(body.constData(), 1, size_t(body.size()), stdout);

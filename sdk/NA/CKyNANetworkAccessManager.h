@@ -4,7 +4,8 @@
 
 #include "UI/CKyUIObject.h"
 
-class QByteArray;
+#include <QtCore/QByteArray>
+
 class QIODevice;
 class CKyNANetworkReply;
 class CKyNANetworkRequest;
@@ -19,6 +20,12 @@ class CKyNANetworkRequest;
 /// aborted transfer reports `error(OperationCanceledError)` and then
 /// `finished()`. The manager keeps no list of its replies, and reports nothing
 /// itself: failures arrive through the reply.
+///
+/// The time-out clock starts when the operation is called, so it includes the
+/// time the request waits for one of the toolkit's six connections per host
+/// when more transfers to the same host run at once. For long downloads, set
+/// a generous time-out and an inactivity time-out
+/// (CKyNANetworkRequest::setInactivityTimeout()).
 ///
 /// **Lifetime.** Deleting the manager ends at once every transfer whose reply
 /// has not been deleted yet; such replies must not be used afterwards, so
@@ -49,4 +56,12 @@ public:
     CKyNANetworkReply* put(const CKyNANetworkRequest& request, const QByteArray& data);
     /// Starts a DELETE; the caller owns the returned reply.
     CKyNANetworkReply* deleteResource(const CKyNANetworkRequest& request);
+    /// Starts a HEAD: the reply finishes with the headers and no body. The
+    /// caller owns the returned reply.
+    CKyNANetworkReply* head(const CKyNANetworkRequest& request);
+    /// Starts a transfer with any method (@p verb, such as "PATCH" or
+    /// "OPTIONS"), sending @p body when it is not empty; guarded by the same
+    /// time-outs as the other operations. The caller owns the returned reply.
+    CKyNANetworkReply* sendCustomRequest(const CKyNANetworkRequest& request, const QByteArray& verb,
+                                         const QByteArray& body = QByteArray());
 };

@@ -10,7 +10,9 @@
 #include <QtCore/QList>
 #include <QtCore/QPair>
 #include <QtCore/QString>
+#include <QtCore/QUrl>
 #include <QtCore/QVariant>
+#include <QtNetwork/QSslError>
 
 class QObject;
 
@@ -25,6 +27,13 @@ class QObject;
 /// `error(OperationCanceledError)` and then `finished()`. While the reply's
 /// signals are blocked nothing is emitted (nor queued), but isFinished() and
 /// the headers are still kept.
+///
+/// Two reports come only to clients that ask for them. sslErrors() comes
+/// when the server's certificate is not trusted, before encrypted() or the
+/// `error(SslHandshakeFailedError)` that follows unless the slot calls
+/// ignoreSslErrors(). readyRead() comes only for a request with
+/// CKyNANetworkRequest::setStreaming(), each time body data arrives, before
+/// finished().
 ///
 /// **Lifetime.** Delete the reply when done, and before its manager; the
 /// toolkit reply goes on the next pass of the event loop. Deleting the reply
@@ -121,6 +130,28 @@ public:
     long long pos() const;
     /// Moves the read position; false before error() or finished().
     bool seek(long long pos);
+    /// Takes at most @p maxSize bytes of the body. Readable from the start
+    /// for a streaming request (CKyNANetworkRequest::setStreaming()), else
+    /// once error() or finished() was reported; an empty array before.
+    ///
+    /// Reading a reply that failed, was aborted or timed out never makes the
+    /// toolkit complain: readAll(), read() and seek() then return neutral
+    /// values, like the other reads.
+    QByteArray read(long long maxSize);
+
+    /// The URL the body came from: the request's URL, or the target of the
+    /// last redirect followed (CKyNANetworkRequest::setFollowRedirects());
+    /// empty without a toolkit reply.
+    QUrl url() const;
+
+    /// Accepts every TLS error of this transfer's certificate check; call it
+    /// from a slot of sslErrors(), before the slot returns. The connection
+    /// then goes on as if the certificate were trusted.
+    void ignoreSslErrors();
+    /// Accepts only the listed TLS errors (compare with the list sslErrors()
+    /// reported); any other error still fails the handshake. Call it from a
+    /// slot of sslErrors().
+    void ignoreSslErrors(const QList<QSslError>& errors);
 
     /// The toolkit reply's attribute, for instance the HTTP status code with
     /// CKyNANetworkRequest::HttpStatusCodeAttribute; invalid without a toolkit
@@ -166,4 +197,13 @@ public:
     /// Emitted once when the transfer ends, successful or not; the headers and
     /// the body are readable from here on.
     CKyUISignal<void()>& finished();
+    /// Emitted with the toolkit's list of problems with the server's
+    /// certificate, before the handshake goes on or fails. A slot may call
+    /// ignoreSslErrors(); without it the transfer fails with
+    /// `error(SslHandshakeFailedError)` and `finished()`.
+    CKyUISignal<void(const QList<QSslError>&)>& sslErrors();
+    /// For a streaming request only (CKyNANetworkRequest::setStreaming()):
+    /// emitted each time body data has arrived and can be taken with read()
+    /// or readAll(); the last one comes before finished().
+    CKyUISignal<void()>& readyRead();
 };

@@ -6,6 +6,8 @@
 #include <QtCore/QList>
 #include <QtCore/QUrl>
 #include <QtCore/QVariant>
+#include <QtNetwork/QSslCertificate>
+#include <QtNetwork/QSslKey>
 
 class QNetworkRequest;
 class CKyNANetworkRequestImpl;
@@ -18,7 +20,8 @@ class CKyNANetworkRequestImpl;
 /// The getters answer from what was set on this object, never from the
 /// toolkit request. Copying and assigning are deliberately shallow: the copy
 /// carries only the URL given to setUrl() (the constructor's URL does not
-/// count), and neither headers nor time-out. Build each request in place and
+/// count), and neither headers, time-outs nor any of the TLS, redirect and
+/// streaming options. Build each request in place and
 /// pass it by reference.
 ///
 /// \code
@@ -116,6 +119,58 @@ public:
     void setRequestTimeout(int ms);
     /// The stored time-out; 0 unless set.
     int requestTimeout() const;
+
+    /// Milliseconds without a byte received or sent after which the transfer
+    /// is aborted, reporting `error(OperationCanceledError)` and then
+    /// `finished()` like the whole-transfer time-out; 0 or less (the default)
+    /// sets no such bound. Both bounds apply together: use this one for long
+    /// downloads and a generous requestTimeout().
+    void setInactivityTimeout(int ms);
+    /// The stored inactivity time-out; 0 unless set.
+    int inactivityTimeout() const;
+
+    /// Certificates of authorities to trust for this request on top of the
+    /// system's, for servers whose certificate comes from a private or
+    /// self-signed authority. An empty list (the default) trusts the system's
+    /// authorities alone. Also used by a web socket opened with this request.
+    void setCaCertificates(const QList<QSslCertificate>& certificates);
+    /// The authorities given with setCaCertificates(); empty unless set.
+    QList<QSslCertificate> caCertificates() const;
+    /// The certificate and private key this request presents to a server that
+    /// asks for one; null values (the default) present none.
+    void setClientCertificate(const QSslCertificate& certificate, const QSslKey& key);
+    /// The client certificate; null unless set.
+    QSslCertificate clientCertificate() const;
+    /// The client certificate's private key; null unless set.
+    QSslKey clientKey() const;
+
+    /// Whether the transfer follows redirects (3xx with a Location). Off by
+    /// default: the reply then finishes with the redirect itself, status and
+    /// Location header included. When on, the reply reports only the last
+    /// answer, and CKyNANetworkReply::url() tells where it came from. A
+    /// redirect from https to http fails with InsecureRedirectError unless
+    /// setAllowInsecureRedirects() says otherwise; more than
+    /// maximumRedirects() redirects fail with TooManyRedirectsError.
+    void setFollowRedirects(bool follow);
+    /// Whether redirects are followed; false unless set.
+    bool followRedirects() const;
+    /// How many redirects one transfer follows at most; 10 unless set.
+    void setMaximumRedirects(int count);
+    /// The stored limit of redirects.
+    int maximumRedirects() const;
+    /// Lets a followed redirect lead from https to http; false by default.
+    void setAllowInsecureRedirects(bool allow);
+    /// Whether redirects from https to http are followed.
+    bool allowInsecureRedirects() const;
+
+    /// Makes the reply report CKyNANetworkReply::readyRead() each time body
+    /// data arrives and makes the body readable at once, so that a client
+    /// consumes a large body while it arrives instead of holding all of it
+    /// until finished(). Off by default: no readyRead(), nothing readable
+    /// before error() or finished().
+    void setStreaming(bool streaming);
+    /// Whether the reply streams its body; false unless set.
+    bool streaming() const;
 
     /// The toolkit request that every setter writes; for the library's own
     /// use.

@@ -3,6 +3,7 @@
 #include "NA/CKyNANetworkAccessManager.h"
 #include "NA/CKyNANetworkReply.h"
 #include "NA/CKyNANetworkRequest.h"
+#include "NA/Impl/CKyNANetworkReplyImpl.h"
 #include "NA/Impl/qt/CKyNANetworkReplyTimeout.h"
 
 #include <QtNetwork/QNetworkAccessManager>
@@ -27,12 +28,20 @@ CKyNANetworkReply* StartTransfer(const CKyUIObject* owner, const CKyNANetworkReq
     const int timeout = request.requestTimeout() > 0 ? request.requestTimeout()
                                                      : CKyNANetworkAccessManagerImpl::DefaultTimeoutMs;
     auto* guard = new CKyNANetworkReplyTimeout(reply, timeout);
+    if (request.inactivityTimeout() > 0)
+        guard->watchInactivity(request.inactivityTimeout());
+    // A downgrade the client allowed is confirmed each time the toolkit asks.
+    if (toolkitRequest->attribute(QNetworkRequest::RedirectPolicyAttribute).toInt() ==
+        QNetworkRequest::UserVerifiedRedirectPolicy)
+        QObject::connect(reply, &QNetworkReply::redirected, reply, &QNetworkReply::redirectAllowed);
     // Made before the public reply connects its own handlers, so the timer is
     // stopped before anyone hears of the finish.
     QObject::connect(
         reply, &QNetworkReply::finished, reply, [guard] { guard->stop(); }, Qt::DirectConnection);
     auto* result = new CKyNANetworkReply(reply);
     result->setRequest(request);
+    if (request.streaming())
+        static_cast<CKyNANetworkReplyImpl*>(result->impl())->StartStreaming();
     return result;
 }
 
@@ -96,4 +105,21 @@ CKyNANetworkReply* CKyNANetworkAccessManagerImpl::DeleteResourceImpl(const CKyNA
     return StartTransfer(owner(), request, [](QNetworkAccessManager& manager, const QNetworkRequest& r) {
         return manager.deleteResource(r);
     });
+}
+
+CKyNANetworkReply* CKyNANetworkAccessManagerImpl::HeadImpl(const CKyNANetworkRequest& request)
+{
+    return StartTransfer(owner(), request, [](QNetworkAccessManager& manager, const QNetworkRequest& r) {
+        return manager.head(r);
+    });
+}
+
+CKyNANetworkReply* CKyNANetworkAccessManagerImpl::SendCustomRequestImpl(const CKyNANetworkRequest& request,
+                                                                        const QByteArray& verb,
+                                                                        const QByteArray& body)
+{
+    return StartTransfer(owner(), request,
+                         [&verb, &body](QNetworkAccessManager& manager, const QNetworkRequest& r) {
+                             return manager.sendCustomRequest(r, verb, body);
+                         });
 }

@@ -56,6 +56,11 @@ void CKyNANetworkReplyImpl::ConnectNetworkReplySignalsImpl()
                        reply->rawHeaderPairs(), reply);
         },
         Qt::DirectConnection);
+    // Only a client that listens can accept the errors; without one the
+    // handshake fails as it always did.
+    m_connections << QObject::connect(
+        reply, &QNetworkReply::sslErrors, reply,
+        [this](const QList<QSslError>& errors) { OnSslErrors(errors); }, Qt::DirectConnection);
     // Should the toolkit reply die first (its manager deleted), forget it
     // rather than reach for a dangling pointer.
     m_connections << QObject::connect(reply, &QObject::destroyed, [this] {
@@ -98,4 +103,32 @@ void CKyNANetworkReplyImpl::AbortImpl()
 {
     if (QNetworkReply* reply = toolkitReply(owner()))
         reply->abort();
+}
+
+QUrl CKyNANetworkReplyImpl::UrlImpl() const
+{
+    QNetworkReply* reply = toolkitReply(owner());
+    return reply ? reply->url() : QUrl();
+}
+
+void CKyNANetworkReplyImpl::IgnoreSslErrorsImpl(const QList<QSslError>* errors)
+{
+    QNetworkReply* reply = toolkitReply(owner());
+    if (!reply)
+        return;
+    if (errors)
+        reply->ignoreSslErrors(*errors);
+    else
+        reply->ignoreSslErrors();
+}
+
+void CKyNANetworkReplyImpl::StartStreamingImpl()
+{
+    QNetworkReply* reply = toolkitReply(owner());
+    if (!reply)
+        return;
+    // The body is readable from now on, not only from error or finish.
+    m_device = reply;
+    m_connections << QObject::connect(
+        reply, &QIODevice::readyRead, reply, [this] { OnReadyRead(); }, Qt::DirectConnection);
 }

@@ -1,6 +1,7 @@
 #include "NA/Impl/CKyNANetworkRequestImpl.h"
 
 #include <QtNetwork/QNetworkRequest>
+#include <QtNetwork/QSslConfiguration>
 
 // The codes go to the toolkit unchanged, so they must be the toolkit's.
 static_assert(int(CKyNANetworkRequest::ContentTypeHeader) == int(QNetworkRequest::ContentTypeHeader), "");
@@ -23,7 +24,11 @@ static_assert(int(CKyNANetworkRequest::UserMax) == int(QNetworkRequest::UserMax)
 
 void CKyNANetworkRequestImpl::CreateNetworkRequestImpl(const QUrl& url)
 {
-    m_owner->setHandle(new QNetworkRequest(url));
+    auto* request = new QNetworkRequest(url);
+    // Said explicitly because toolkits differ in their default: redirects are
+    // reported, not followed, unless the client asks.
+    request->setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
+    m_owner->setHandle(request);
 }
 
 void CKyNANetworkRequestImpl::DestroyNetworkRequestImpl()
@@ -51,4 +56,35 @@ void CKyNANetworkRequestImpl::SetRawHeaderImpl(const QByteArray& name, const QBy
 {
     if (QNetworkRequest* request = m_owner->getHandle())
         request->setRawHeader(name, value);
+}
+
+void CKyNANetworkRequestImpl::SetSslConfigurationImpl()
+{
+    QNetworkRequest* request = m_owner->getHandle();
+    if (!request)
+        return;
+    // Built afresh each time, so that clearing an option restores the default.
+    QSslConfiguration configuration = QSslConfiguration::defaultConfiguration();
+    if (!m_caCertificates.isEmpty())
+        configuration.setCaCertificates(QSslConfiguration::systemCaCertificates() + m_caCertificates);
+    if (m_client) {
+        configuration.setLocalCertificate(m_client->first);
+        configuration.setPrivateKey(m_client->second);
+    }
+    request->setSslConfiguration(configuration);
+}
+
+void CKyNANetworkRequestImpl::SetRedirectPolicyImpl()
+{
+    QNetworkRequest* request = m_owner->getHandle();
+    if (!request)
+        return;
+    // A permitted downgrade is confirmed redirect by redirect when the
+    // transfer starts; the toolkit has no policy that simply allows it.
+    QNetworkRequest::RedirectPolicy policy = QNetworkRequest::ManualRedirectPolicy;
+    if (m_followRedirects)
+        policy = m_allowInsecureRedirects ? QNetworkRequest::UserVerifiedRedirectPolicy
+                                          : QNetworkRequest::NoLessSafeRedirectPolicy;
+    request->setAttribute(QNetworkRequest::RedirectPolicyAttribute, policy);
+    request->setMaximumRedirectsAllowed(m_maximumRedirects);
 }
