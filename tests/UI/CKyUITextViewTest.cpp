@@ -21,26 +21,6 @@ QTextEdit* WidgetOf(const CKyUITextView& view)
 {
     return qobject_cast<QTextEdit*>(view.getHandle());
 }
-
-// A shown window with a line edit before and one after the text view, in
-// this tab order. Made before the view, so that the view goes first and the
-// window then deletes the widget the view released.
-struct Window
-{
-    void Hold(CKyUITextView& view)
-    {
-        auto* layout = new QVBoxLayout(&window);
-        layout->addWidget(before);
-        layout->addWidget(WidgetOf(view));
-        layout->addWidget(after);
-        window.show();
-        window.activateWindow();
-    }
-
-    QWidget window;
-    QLineEdit* before = new QLineEdit;
-    QLineEdit* after = new QLineEdit;
-};
 } // namespace
 
 TEST(CKyUITextViewTest, WidgetMovesFocusOnTabAndTakesPlainText)
@@ -92,19 +72,43 @@ TEST(CKyUITextViewTest, SetTextEmitsForEachChangeNoticeAndOnceMore)
     EXPECT_EQ(log.count("changed"), notices.count());
     EXPECT_TRUE(view.getContent().isEmpty());
     EXPECT_TRUE(WidgetOf(view)->toPlainText().isEmpty());
+
+    // Blocked signals still let the content follow the widget.
+    log.lines.clear();
+    view.blockSignals(true);
+    view.setText("quiet");
+    QTest::keyClicks(WidgetOf(view), "!");
+    EXPECT_EQ(view.getContent(), WidgetOf(view)->toPlainText());
+    EXPECT_TRUE(view.getContent().contains("quiet"));
+    EXPECT_EQ(log.count("changed"), 0);
+    view.blockSignals(false);
+    view.addText("loud");
+    EXPECT_GE(log.count("changed"), 1);
 }
 
-TEST(CKyUITextViewTest, ReplacementIsPlainOneUndoableStepInTheCurrentFormat)
+TEST(CKyUITextViewTest, ReplacementIsPlainOneUndoableStepAndAddingAppendsABlock)
 {
     CKyUITextView view;
     QTextEdit* widget = WidgetOf(view);
+    // addText shows markup literally, addHtmlText formatted, each in a block of its own.
+    view.addText("a < b > c & d");
+    EXPECT_EQ(widget->toPlainText(), "a < b > c & d");
+    view.addHtmlText("<b>bold</b>");
+    EXPECT_EQ(widget->document()->blockCount(), 2);
+    const QTextBlock second = widget->document()->lastBlock();
+    EXPECT_EQ(second.text(), "bold");
+    QTextCursor cursor(second);
+    cursor.movePosition(QTextCursor::NextCharacter);
+    EXPECT_EQ(cursor.charFormat().fontWeight(), QFont::Bold);
+    EXPECT_EQ(view.getContent(), "a < b > c & d\nbold");
+
     view.setText("first");
     widget->setFontWeight(QFont::Bold);
 
     view.setHtmlText("<i>second</i>");
     EXPECT_EQ(widget->toPlainText(), "<i>second</i>");
     EXPECT_EQ(view.getContent(), "<i>second</i>");
-    QTextCursor cursor(widget->document());
+    cursor = QTextCursor(widget->document());
     cursor.setPosition(3);
     EXPECT_EQ(cursor.charFormat().fontWeight(), QFont::Bold);
 
@@ -136,25 +140,6 @@ TEST(CKyUITextViewTest, ALongWrappedTextReplacedByAShortOne)
     EXPECT_EQ(widget->toPlainText(), paragraph);
 }
 
-TEST(CKyUITextViewTest, AddTextShowsMarkupLiterallyAddHtmlTextFormatted)
-{
-    CKyUITextView view;
-    QTextEdit* widget = WidgetOf(view);
-
-    view.addText("a < b > c & d");
-    EXPECT_EQ(widget->toPlainText(), "a < b > c & d");
-    EXPECT_EQ(view.getContent(), widget->toPlainText());
-
-    view.addHtmlText("<b>bold</b>");
-    EXPECT_EQ(widget->document()->blockCount(), 2);
-    const QTextBlock second = widget->document()->lastBlock();
-    EXPECT_EQ(second.text(), "bold");
-    QTextCursor cursor(second);
-    cursor.movePosition(QTextCursor::NextCharacter);
-    EXPECT_EQ(cursor.charFormat().fontWeight(), QFont::Bold);
-    EXPECT_EQ(view.getContent(), "a < b > c & d\nbold");
-}
-
 TEST(CKyUITextViewTest, HeightFollowsTheContentWhileAdjustingIsOn)
 {
     CKyUITextView view;
@@ -165,7 +150,6 @@ TEST(CKyUITextViewTest, HeightFollowsTheContentWhileAdjustingIsOn)
     EXPECT_EQ(widget->minimumHeight(), 0);
 
     view.setAdjustHeightToContent(true);
-    EXPECT_TRUE(view.getAdjustHeightToContent());
     view.setText("one\ntwo\nthree");
     const int documentHeight =
         static_cast<int>(widget->document()->documentLayout()->documentSize().height());
@@ -185,44 +169,35 @@ TEST(CKyUITextViewTest, HeightFollowsTheContentWhileAdjustingIsOn)
 
 TEST(CKyUITextViewTest, FocusInAndOutAreSignalledAlsoWhenReadOnly)
 {
-    Window window;
+    // Line edits before and after the view, in this tab order. The window is
+    // made first, so that it goes last and deletes the widget the view released.
+    QWidget window;
     CKyUITextView view;
     view.setReadOnly(true);
-    window.Hold(view);
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window.window));
+    auto* layout = new QVBoxLayout(&window);
+    auto* before = new QLineEdit;
+    auto* after = new QLineEdit;
+    layout->addWidget(before);
+    layout->addWidget(WidgetOf(view));
+    layout->addWidget(after);
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     Recorder log;
     log.on(view.focusInEventSignal(), "in").on(view.focusOutEventSignal(), "out");
 
-    QTest::keyClick(window.before, Qt::Key_Tab);
+    QTest::keyClick(before, Qt::Key_Tab);
     QTRY_VERIFY(WidgetOf(view)->hasFocus());
     EXPECT_EQ(log.lines, QStringList({"in"}));
 
     QTest::keyClick(WidgetOf(view), Qt::Key_Tab);
-    QTRY_VERIFY(window.after->hasFocus());
+    QTRY_VERIFY(after->hasFocus());
     EXPECT_EQ(log.lines, QStringList({"in", "out"}));
 
     view.blockSignals(true);
     WidgetOf(view)->setFocus();
     QTRY_VERIFY(WidgetOf(view)->hasFocus());
-    window.after->setFocus();
-    QTRY_VERIFY(window.after->hasFocus());
+    after->setFocus();
+    QTRY_VERIFY(after->hasFocus());
     EXPECT_EQ(log.lines, QStringList({"in", "out"}));
-}
-
-TEST(CKyUITextViewTest, BlockedSignalsStillLetTheContentFollowTheWidget)
-{
-    CKyUITextView view;
-    Recorder log;
-    log.on(view.textChanged(), "changed");
-
-    view.blockSignals(true);
-    view.setText("quiet");
-    QTest::keyClicks(WidgetOf(view), "!");
-    EXPECT_EQ(view.getContent(), WidgetOf(view)->toPlainText());
-    EXPECT_TRUE(view.getContent().contains("quiet"));
-    EXPECT_EQ(log.count("changed"), 0);
-
-    view.blockSignals(false);
-    view.addText("loud");
-    EXPECT_GE(log.count("changed"), 1);
 }
