@@ -14,8 +14,6 @@
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QPushButton>
 
-#include <vector>
-
 namespace
 {
 QAction* ActionOf(const CKyUIAction& action)
@@ -29,51 +27,19 @@ QMenu* MenuOf(const CKyUIMenu& menu)
 }
 
 // Tells when it is deleted.
-class WatchedAction : public CKyUIAction
+struct WatchedAction : CKyUIAction
 {
-public:
-    explicit WatchedAction(bool* gone)
-        : m_gone(gone)
-    {}
-    ~WatchedAction() override { *m_gone = true; }
-
-private:
-    bool* m_gone;
+    bool* gone = nullptr;
+    ~WatchedAction() override { *gone = true; }
 };
 
 CKyUIActionImpl* ImplOf(CKyUIAction& action)
 {
     return static_cast<CKyUIActionImpl*>(action.impl());
 }
-
-// A shown window with a button near its top left, the view a menu opens under.
-class MenuPopupTest : public ::testing::Test
-{
-protected:
-    void SetUp() override
-    {
-        window.setGeometry(100, 100, 400, 300);
-        button = new QPushButton("Options", &window);
-        button->setGeometry(150, 20, 200, 30);
-        window.show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
-        view.reset(new HandleView(button));
-    }
-
-    void TearDown() override
-    {
-        if (QMenu* shown = MenuOf(menu))
-            shown->hide();
-    }
-
-    QWidget window;
-    QPushButton* button = nullptr;
-    std::unique_ptr<HandleView> view;
-    CKyUIMenu menu;
-};
 } // namespace
 
-TEST(ActionTest, SettersStoreAndReachTheToolkitExceptEnabling)
+TEST(ActionTest, SettersStoreAndReachTheToolkitExceptEnablingTriggeredCarriesTheState)
 {
     CKyUIAction action;
     QAction* toolkit = ActionOf(action);
@@ -81,15 +47,25 @@ TEST(ActionTest, SettersStoreAndReachTheToolkitExceptEnabling)
     EXPECT_EQ(toolkit->parent(), nullptr);
     EXPECT_EQ(action.impl()->GetFrontendClassName(), "QAction");
     EXPECT_TRUE(ImplOf(action)->IsVisible());
+
+    // triggered carries the toolkit's checked state, unless blocked.
+    Recorder log;
+    log.on(action.triggered(), "triggered");
+    toolkit->trigger();
+    action.setCheckable(true);
+    toolkit->trigger();
+    toolkit->trigger();
+    action.blockSignals(true);
+    toolkit->trigger();
+    EXPECT_EQ(log.lines, QStringList({"triggered:false", "triggered:true", "triggered:false"}));
+
     action.setText("Snap to grid");
-    EXPECT_EQ(action.text(), "Snap to grid");
     EXPECT_EQ(toolkit->text(), "Snap to grid");
 
     action.setResourceIcon(":/commonui/resources/icons/chevron_up.png");
     EXPECT_TRUE(toolkit->icon().isNull());
     EXPECT_TRUE(ImplOf(action)->Icon().isNull());
 
-    action.setCheckable(true);
     action.setChecked(true);
     EXPECT_TRUE(toolkit->isCheckable());
     EXPECT_TRUE(toolkit->isChecked());
@@ -103,37 +79,25 @@ TEST(ActionTest, SettersStoreAndReachTheToolkitExceptEnabling)
     EXPECT_FALSE(toolkit->isVisible());
 }
 
-TEST(ActionTest, TriggeredCarriesTheToolkitStateUnlessBlocked)
+// The menu opens under a button near the window's top left; a view without
+// a widget, or none, opens nothing.
+TEST(MenuTest, CheckableActionTriggeredFromThePoppedUpMenu)
 {
-    CKyUIAction action;
-    Recorder log;
-    log.on(action.triggered(), "triggered");
-    ActionOf(action)->trigger();
-    action.setCheckable(true);
-    ActionOf(action)->trigger();
-    ActionOf(action)->trigger();
-    action.blockSignals(true);
-    ActionOf(action)->trigger();
-    EXPECT_EQ(log.lines, QStringList({"triggered:false", "triggered:true", "triggered:false"}));
-}
+    QWidget window;
+    window.setGeometry(100, 100, 400, 300);
+    auto* button = new QPushButton("Options", &window);
+    button->setGeometry(150, 20, 200, 30);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    HandleView view(button);
+    CKyUIMenu menu;
+    QMenu* shown = MenuOf(menu);
+    HandleView withoutWidget(new QObject(&window));
+    menu.popup(&withoutWidget);
+    menu.popup(nullptr);
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(shown->isVisible());
 
-TEST(ActionTest, ToolkitActionOutlivesItsActionQuietly)
-{
-    auto* action = new CKyUIAction;
-    Recorder log;
-    log.on(action->triggered(), "triggered");
-    QPointer<QAction> toolkit(ActionOf(*action));
-    delete action;
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    // Not a widget, so not released; triggering it reaches nobody.
-    ASSERT_FALSE(toolkit.isNull());
-    toolkit->trigger();
-    EXPECT_TRUE(log.lines.isEmpty());
-    delete toolkit.data();
-}
-
-TEST_F(MenuPopupTest, CheckableActionTriggeredFromThePoppedUpMenu)
-{
     auto* action = new CKyUIAction;
     action->setText("Snap to grid");
     action->setCheckable(true);
@@ -146,8 +110,7 @@ TEST_F(MenuPopupTest, CheckableActionTriggeredFromThePoppedUpMenu)
     menu.addSeparator();
     menu.addAction(action);
 
-    QMenu* shown = MenuOf(menu);
-    menu.popup(view.get());
+    menu.popup(&view);
     ASSERT_TRUE(QTest::qWaitForWindowExposed(shown));
     const QPoint belowRightEdge(button->width() - shown->sizeHint().width(), button->height());
     EXPECT_EQ(shown->pos(), button->mapToGlobal(belowRightEdge));
@@ -160,15 +123,6 @@ TEST_F(MenuPopupTest, CheckableActionTriggeredFromThePoppedUpMenu)
     // The user's toggle is the toolkit's; the stored flag stays.
     EXPECT_TRUE(entry->isChecked());
     EXPECT_FALSE(action->isChecked());
-}
-
-TEST_F(MenuPopupTest, PopupNeedsAWidgetUnderIt)
-{
-    HandleView withoutWidget(new QObject(&window));
-    menu.popup(&withoutWidget);
-    menu.popup(nullptr);
-    QCoreApplication::processEvents();
-    EXPECT_FALSE(MenuOf(menu)->isVisible());
 }
 
 TEST(MenuTest, AddedActionsBelongToTheMenuAndSurviveClear)
@@ -201,12 +155,15 @@ TEST(MenuTest, AddedActionsBelongToTheMenuAndSurviveClear)
     EXPECT_EQ(menu.children(), QList<CKyUIObject*>({second, first}));
 }
 
-TEST(MenuTest, DeletingTheMenuDeletesItsActionsAndReleasesItsWidgetLater)
+TEST(MenuTest, DeletingTheMenuDeletesItsActionsAndReleasesItsWidgetLaterTheirsStayQuiet)
 {
     auto* menu = new CKyUIMenu;
     bool actionGone = false;
-    auto* action = new WatchedAction(&actionGone);
+    auto* action = new WatchedAction;
+    action->gone = &actionGone;
     menu->addAction(action);
+    Recorder log;
+    log.on(action->triggered(), "triggered");
     QPointer<QMenu> toolkitMenu(MenuOf(*menu));
     QPointer<QAction> toolkitAction(ActionOf(*action));
 
@@ -215,6 +172,9 @@ TEST(MenuTest, DeletingTheMenuDeletesItsActionsAndReleasesItsWidgetLater)
     EXPECT_FALSE(toolkitMenu.isNull());
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_TRUE(toolkitMenu.isNull());
+    // The action is not a widget, so not released; triggering it reaches nobody.
     ASSERT_FALSE(toolkitAction.isNull());
+    toolkitAction->trigger();
+    EXPECT_TRUE(log.lines.isEmpty());
     delete toolkitAction.data();
 }
