@@ -5,7 +5,6 @@
 
 #include <QtCore/QPointer>
 #include <QtWidgets/QDialogButtonBox>
-#include <QtWidgets/QGroupBox>
 #include <QtWidgets/QPushButton>
 
 namespace
@@ -52,8 +51,6 @@ TEST(CKyUIDialogButtonBoxTest, HasOkCancelAndHelpWrappingTheToolkitButtons)
     CKyUIDialogButtonBox& box = *dialog.box;
     QDialogButtonBox* toolkit = ToolkitBoxOf(box);
     ASSERT_NE(toolkit, nullptr);
-    EXPECT_EQ(toolkit->standardButtons(),
-              QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Help);
     EXPECT_EQ(int(toolkit->standardButtons()), 0x01400400);
     EXPECT_EQ(toolkit->minimumHeight(), 30);
 
@@ -61,9 +58,6 @@ TEST(CKyUIDialogButtonBoxTest, HasOkCancelAndHelpWrappingTheToolkitButtons)
     CKyUIPushButton* cancel = box.button(CKyUIDialogButtonBox::Cancel);
     CKyUIPushButton* help = box.button(CKyUIDialogButtonBox::Help);
     ASSERT_TRUE(ok && cancel && help);
-    EXPECT_NE(ok, cancel);
-    EXPECT_NE(cancel, help);
-    EXPECT_NE(ok, help);
     EXPECT_EQ(ok->getHandle(), toolkit->button(QDialogButtonBox::Ok));
     EXPECT_EQ(cancel->getHandle(), toolkit->button(QDialogButtonBox::Cancel));
     EXPECT_EQ(help->getHandle(), toolkit->button(QDialogButtonBox::Help));
@@ -74,11 +68,9 @@ TEST(CKyUIDialogButtonBoxTest, HasOkCancelAndHelpWrappingTheToolkitButtons)
     QLayout* column = qobject_cast<QWidget*>(dialog.GetLayout()->getHandle())->layout();
     EXPECT_EQ(column->itemAt(column->count() - 1)->widget(), toolkit);
 
-    const int okAndCancel =
-        CKyUIDialogButtonBox::StandardButtons(CKyUIDialogButtonBox::Ok | CKyUIDialogButtonBox::Cancel);
-    EXPECT_EQ(box.button(static_cast<CKyUIDialogButtonBox::StandardButton>(okAndCancel)), nullptr);
-    EXPECT_EQ(box.button(static_cast<CKyUIDialogButtonBox::StandardButton>(0)), nullptr);
-    EXPECT_EQ(box.button(static_cast<CKyUIDialogButtonBox::StandardButton>(0x00000800)), nullptr);
+    // Ok | Cancel, none, and a button the box does not have.
+    for (int which : {0x00400400, 0, 0x00000800})
+        EXPECT_EQ(box.button(static_cast<CKyUIDialogButtonBox::StandardButton>(which)), nullptr);
 
     box.setStandardButtons(CKyUIDialogButtonBox::Ok);
     EXPECT_EQ(toolkit->buttons().size(), 3);
@@ -86,7 +78,7 @@ TEST(CKyUIDialogButtonBoxTest, HasOkCancelAndHelpWrappingTheToolkitButtons)
         EXPECT_TRUE(button->isVisible());
 }
 
-TEST(CKyUIDialogButtonBoxTest, PressesReachClientsOnlyAsTheBoxsSignals)
+TEST(CKyUIDialogButtonBoxTest, PressesAndTheDialogsSignalsReachClientsAsTheBoxsSignals)
 {
     ShownDialog dialog;
     Recorder log;
@@ -109,28 +101,9 @@ TEST(CKyUIDialogButtonBoxTest, PressesReachClientsOnlyAsTheBoxsSignals)
     QTest::mouseClick(dialog.boxButton(CKyUIDialogButtonBox::Ok), Qt::LeftButton);
     EXPECT_TRUE(log.lines.isEmpty());
     EXPECT_EQ(dialog.accepts, 1);
-}
+    dialog.box->blockSignals(false);
 
-TEST(CKyUIDialogButtonBoxTest, TheBoxNeverClosesTheDialogByItself)
-{
-    SampleDialog dialog;
-    dialog.afterSetup = [](SampleDialog& self) {
-        // A client that listens to nothing.
-        self.box->blockSignals(true);
-    };
-    SetUpAndShow(dialog);
-    QTest::mouseClick(dialog.boxButton(CKyUIDialogButtonBox::Ok), Qt::LeftButton);
-    QTest::mouseClick(dialog.boxButton(CKyUIDialogButtonBox::Cancel), Qt::LeftButton);
-    EXPECT_TRUE(dialog.widget()->isVisible());
-    dialog.widget()->hide();
-}
-
-TEST(CKyUIDialogButtonBoxTest, TheDialogsSignalsAreReportedAsClicksOfOkAndCancel)
-{
-    ShownDialog dialog;
-    Recorder log;
-    Record(*dialog.box, log);
-
+    // The dialog's own signals are reported as clicks of Ok and Cancel.
     // The box's own slot on the wrapper's clicked was connected before the
     // recording one, so its accepted comes first, inside that emission.
     dialog.accepted().Emit();
@@ -148,6 +121,20 @@ TEST(CKyUIDialogButtonBoxTest, TheDialogsSignalsAreReportedAsClicksOfOkAndCancel
     dialog.box->button(CKyUIDialogButtonBox::Cancel)->blockSignals(true);
     dialog.rejected().Emit();
     EXPECT_TRUE(log.lines.isEmpty());
+}
+
+TEST(CKyUIDialogButtonBoxTest, TheBoxNeverClosesTheDialogByItself)
+{
+    SampleDialog dialog;
+    dialog.afterSetup = [](SampleDialog& self) {
+        // A client that listens to nothing.
+        self.box->blockSignals(true);
+    };
+    SetUpAndShow(dialog);
+    QTest::mouseClick(dialog.boxButton(CKyUIDialogButtonBox::Ok), Qt::LeftButton);
+    QTest::mouseClick(dialog.boxButton(CKyUIDialogButtonBox::Cancel), Qt::LeftButton);
+    EXPECT_TRUE(dialog.widget()->isVisible());
+    dialog.widget()->hide();
 }
 
 TEST(CKyUIDialogButtonBoxTest, DestroyingTheBoxLeavesTheToolkitButtonsToTheToolkitBox)
