@@ -7,7 +7,6 @@
 
 #include <QtCore/QMetaMethod>
 #include <QtCore/QPointer>
-#include <QtGui/QPixmap>
 #include <QtTest/QTest>
 
 #include <vector>
@@ -18,23 +17,6 @@ CKyUIPushButtonFrontend* FrontendOf(const CKyUIPushButton& button)
 {
     return qobject_cast<CKyUIPushButtonFrontend*>(button.getHandle());
 }
-
-// A shown button whose clicked() arguments are recorded.
-struct ClickableButton
-{
-    ClickableButton()
-    {
-        button.setText("Apply");
-        clicks.on(button.clicked(), "clicked");
-        widget()->show();
-        EXPECT_TRUE(QTest::qWaitForWindowExposed(widget()));
-    }
-    CKyUIPushButtonFrontend* widget() const { return FrontendOf(button); }
-    void click() { QTest::mouseClick(widget(), Qt::LeftButton); }
-
-    CKyUIPushButton button;
-    Recorder clicks;
-};
 } // namespace
 
 TEST(CKyUIPushButtonTest, CreatesItsFrontendAsAnAutoDefaultButton)
@@ -69,38 +51,34 @@ TEST(CKyUIPushButtonTest, FrontendDeclaresThreeSlotsAndNoSignals)
     EXPECT_EQ(meta.propertyCount(), meta.propertyOffset());
 }
 
+// clicked(true) on release only, also when the click unchecks a checkable
+// button; blocking silences it but keeps the slot.
 TEST(CKyUIPushButtonTest, AClickEmitsTrueOnReleaseAndOnlyThen)
 {
-    ClickableButton subject;
-    QTest::mousePress(subject.widget(), Qt::LeftButton);
-    EXPECT_TRUE(subject.clicks.lines.isEmpty());
-    QTest::mouseRelease(subject.widget(), Qt::LeftButton);
-    EXPECT_EQ(subject.clicks.lines, QStringList{"clicked:true"});
+    CKyUIPushButton button;
+    button.setText("Apply");
+    Recorder clicks;
+    clicks.on(button.clicked(), "clicked");
+    CKyUIPushButtonFrontend* widget = FrontendOf(button);
+    widget->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(widget));
+    QTest::mousePress(widget, Qt::LeftButton);
+    EXPECT_TRUE(clicks.lines.isEmpty());
+    QTest::mouseRelease(widget, Qt::LeftButton);
+    EXPECT_EQ(clicks.lines, QStringList{"clicked:true"});
+    QTest::keyClick(widget, Qt::Key_Space);
+    EXPECT_EQ(clicks.take(), QStringList({"clicked:true", "clicked:true"}));
 
-    QTest::keyClick(subject.widget(), Qt::Key_Space);
-    EXPECT_EQ(subject.clicks.lines, QStringList({"clicked:true", "clicked:true"}));
-}
+    button.blockSignals(true);
+    QTest::mouseClick(widget, Qt::LeftButton);
+    button.blockSignals(false);
 
-TEST(CKyUIPushButtonTest, ACheckableButtonReportsTrueAlsoWhenAClickUnchecksIt)
-{
-    ClickableButton subject;
-    subject.button.setCheckable(true);
-    subject.click();
-    EXPECT_TRUE(subject.widget()->isChecked());
-    subject.click();
-    EXPECT_FALSE(subject.widget()->isChecked());
-    EXPECT_EQ(subject.clicks.lines, QStringList({"clicked:true", "clicked:true"}));
-}
-
-TEST(CKyUIPushButtonTest, BlockedSignalsSilenceClicksButKeepTheSlot)
-{
-    ClickableButton subject;
-    subject.button.blockSignals(true);
-    subject.click();
-    EXPECT_TRUE(subject.clicks.lines.isEmpty());
-    subject.button.blockSignals(false);
-    subject.click();
-    EXPECT_EQ(subject.clicks.lines, QStringList{"clicked:true"});
+    button.setCheckable(true);
+    QTest::mouseClick(widget, Qt::LeftButton);
+    EXPECT_TRUE(widget->isChecked());
+    QTest::mouseClick(widget, Qt::LeftButton);
+    EXPECT_FALSE(widget->isChecked());
+    EXPECT_EQ(clicks.lines, QStringList({"clicked:true", "clicked:true"}));
 }
 
 TEST(CKyUIPushButtonTest, TextIsAnsweredFromTheRecordAndResourceIconsChangeNothing)
