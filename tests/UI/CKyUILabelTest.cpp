@@ -7,6 +7,8 @@
 #include <QtGui/QPixmap>
 #include <QtWidgets/QLabel>
 
+#include <utility>
+
 namespace
 {
 QLabel* LabelOf(const CKyUILabel& label)
@@ -34,6 +36,14 @@ TEST(CKyUILabelTest, CreatesAPlainLabelWithAnEmptyRuleOfItsClass)
     EXPECT_TRUE(widget->wordWrap());
     label.setText("Length");
     EXPECT_EQ(widget->text(), "Length");
+
+    // Icons are shown at most twenty-five pixels square.
+    const std::pair<int, int> sides[] = {{64, 25}, {16, 16}};
+    for (const auto& side : sides) {
+        label.setIcon(SquareIcon(side.first));
+        ASSERT_NE(widget->pixmap(), nullptr);
+        EXPECT_EQ(widget->pixmap()->size(), QSize(side.second, side.second));
+    }
 }
 
 TEST(CKyUILabelTest, ClearEmptiesTheTextAndKeepsTheStoredIcon)
@@ -56,19 +66,6 @@ TEST(CKyUILabelTest, ClearEmptiesTheTextAndKeepsTheStoredIcon)
     EXPECT_TRUE(impl->Icon().isNull());
     EXPECT_TRUE(label.text().isEmpty());
     EXPECT_TRUE(LabelOf(label)->pixmap() == nullptr || LabelOf(label)->pixmap()->isNull());
-}
-
-TEST(CKyUILabelTest, IconsAreShownAtMostTwentyFivePixelsSquare)
-{
-    CKyUILabel large;
-    large.setIcon(SquareIcon(64));
-    ASSERT_NE(LabelOf(large)->pixmap(), nullptr);
-    EXPECT_EQ(LabelOf(large)->pixmap()->size(), QSize(25, 25));
-
-    CKyUILabel small;
-    small.setIcon(SquareIcon(16));
-    ASSERT_NE(LabelOf(small)->pixmap(), nullptr);
-    EXPECT_EQ(LabelOf(small)->pixmap()->size(), QSize(16, 16));
 }
 
 TEST(CKyUILabelTest, WithoutALabelHandleValuesAreStillRecorded)
