@@ -16,16 +16,6 @@
 
 namespace
 {
-QAction* ActionOf(const CKyUIAction& action)
-{
-    return qobject_cast<QAction*>(action.getHandle());
-}
-
-QMenu* MenuOf(const CKyUIMenu& menu)
-{
-    return qobject_cast<QMenu*>(menu.getHandle());
-}
-
 // Tells when it is deleted.
 struct WatchedAction : CKyUIAction
 {
@@ -42,7 +32,7 @@ CKyUIActionImpl* ImplOf(CKyUIAction& action)
 TEST(ActionTest, SettersStoreAndReachTheToolkitExceptEnablingTriggeredCarriesTheState)
 {
     CKyUIAction action;
-    QAction* toolkit = ActionOf(action);
+    QAction* toolkit = HandleAs<QAction>(action);
     ASSERT_NE(toolkit, nullptr);
     EXPECT_EQ(toolkit->parent(), nullptr);
     EXPECT_EQ(action.impl()->GetFrontendClassName(), "QAction");
@@ -91,7 +81,7 @@ TEST(MenuTest, CheckableActionTriggeredFromThePoppedUpMenu)
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
     HandleView view(button);
     CKyUIMenu menu;
-    QMenu* shown = MenuOf(menu);
+    QMenu* shown = HandleAs<QMenu>(menu);
     HandleView withoutWidget(new QObject(&window));
     menu.popup(&withoutWidget);
     menu.popup(nullptr);
@@ -115,7 +105,7 @@ TEST(MenuTest, CheckableActionTriggeredFromThePoppedUpMenu)
     const QPoint belowRightEdge(button->width() - shown->sizeHint().width(), button->height());
     EXPECT_EQ(shown->pos(), button->mapToGlobal(belowRightEdge));
 
-    QAction* entry = ActionOf(*action);
+    QAction* entry = HandleAs<QAction>(*action);
     EXPECT_TRUE(entry->isEnabled());
     QTest::mouseClick(shown, Qt::LeftButton, Qt::NoModifier, shown->actionGeometry(entry).center());
     EXPECT_TRUE(shown->isHidden());
@@ -128,7 +118,7 @@ TEST(MenuTest, CheckableActionTriggeredFromThePoppedUpMenu)
 TEST(MenuTest, AddedActionsBelongToTheMenuAndSurviveClear)
 {
     CKyUIMenu menu;
-    QMenu* toolkit = MenuOf(menu);
+    QMenu* toolkit = HandleAs<QMenu>(menu);
     ASSERT_NE(toolkit, nullptr);
     EXPECT_EQ(toolkit->styleSheet(), "QMenu { }");
     EXPECT_EQ(menu.impl()->GetFrontendClassName(), "QMenu");
@@ -147,11 +137,11 @@ TEST(MenuTest, AddedActionsBelongToTheMenuAndSurviveClear)
     menu.clear();
     EXPECT_TRUE(toolkit->actions().isEmpty());
     EXPECT_EQ(menu.children(), QList<CKyUIObject*>({first, second}));
-    EXPECT_NE(ActionOf(*first), nullptr);
+    EXPECT_NE(HandleAs<QAction>(*first), nullptr);
 
     // Again, at the end of both lists.
     menu.addAction(first);
-    EXPECT_EQ(toolkit->actions(), QList<QAction*>({ActionOf(*first)}));
+    EXPECT_EQ(toolkit->actions(), QList<QAction*>({HandleAs<QAction>(*first)}));
     EXPECT_EQ(menu.children(), QList<CKyUIObject*>({second, first}));
 }
 
@@ -164,8 +154,8 @@ TEST(MenuTest, DeletingTheMenuDeletesItsActionsAndReleasesItsWidgetLaterTheirsSt
     menu->addAction(action);
     Recorder log;
     log.on(action->triggered(), "triggered");
-    QPointer<QMenu> toolkitMenu(MenuOf(*menu));
-    QPointer<QAction> toolkitAction(ActionOf(*action));
+    QPointer<QMenu> toolkitMenu(HandleAs<QMenu>(*menu));
+    QPointer<QAction> toolkitAction(HandleAs<QAction>(*action));
 
     delete menu;
     EXPECT_TRUE(actionGone);

@@ -1,6 +1,7 @@
 #include "UI/CKyUICheckBox.h"
 #include "support/QtPrinters.h"
 #include "support/Recorder.h"
+#include "support/TestViews.h"
 
 #include <gtest/gtest.h>
 
@@ -10,11 +11,6 @@
 
 namespace
 {
-QCheckBox* WidgetOf(const CKyUICheckBox& box)
-{
-    return qobject_cast<QCheckBox*>(box.getHandle());
-}
-
 // Writes every signal of the box to the log, in the order emitted.
 void Record(CKyUICheckBox& box, Recorder& log)
 {
@@ -27,7 +23,7 @@ TEST(CKyUICheckBoxTest, PlainCheckBoxOfFixedHeightAUsersClickChangesNeitherState
     Recorder log;
     CKyUICheckBox box;
     Record(box, log);
-    QCheckBox* widget = WidgetOf(box);
+    QCheckBox* widget = HandleAs<QCheckBox>(box);
     ASSERT_NE(widget, nullptr);
     EXPECT_EQ(widget->styleSheet(), "QCheckBox { }");
     EXPECT_FALSE(box.isChecked());
@@ -65,16 +61,14 @@ TEST(CKyUICheckBoxTest, SetCheckedEmitsStateAsOneOrZeroThenToggledOnlyOnChange)
     box.setChecked(true);
     box.setChecked(true);
     EXPECT_EQ(log.take(), QStringList({"state:1", "toggled:true"}));
-    EXPECT_TRUE(box.isChecked());
-    EXPECT_TRUE(WidgetOf(box)->isChecked());
+    EXPECT_TRUE(HandleAs<QCheckBox>(box)->isChecked());
     box.setChecked(false);
     EXPECT_EQ(log.take(), QStringList({"state:0", "toggled:false"}));
-    EXPECT_FALSE(WidgetOf(box)->isChecked());
+    EXPECT_FALSE(HandleAs<QCheckBox>(box)->isChecked());
 
     box.blockSignals(true);
     box.setChecked(true);
-    EXPECT_TRUE(box.isChecked());
-    EXPECT_TRUE(WidgetOf(box)->isChecked());
+    EXPECT_TRUE(HandleAs<QCheckBox>(box)->isChecked());
     box.blockSignals(false);
     box.setChecked(false);
     EXPECT_EQ(log.take(), QStringList({"state:0", "toggled:false"}));

@@ -1,6 +1,7 @@
 #include "UI/CKyUIComboBox.h"
 #include "support/QtPrinters.h"
 #include "support/Recorder.h"
+#include "support/TestViews.h"
 
 #include <gtest/gtest.h>
 
@@ -11,11 +12,6 @@
 
 namespace
 {
-QComboBox* WidgetOf(const CKyUIComboBox& box)
-{
-    return qobject_cast<QComboBox*>(box.getHandle());
-}
-
 QIcon RedIcon()
 {
     QPixmap pixmap(8, 8);
@@ -42,7 +38,7 @@ QString Current(const CKyUIComboBox& box)
     return QString("%1 %2 | %3")
         .arg(box.currentIndex())
         .arg(box.currentText())
-        .arg(WidgetOf(box)->currentIndex());
+        .arg(HandleAs<QComboBox>(box)->currentIndex());
 }
 
 // The model's item texts, then the widget's.
@@ -52,8 +48,8 @@ QStringList Texts(const CKyUIComboBox& box)
     for (int i = 0; i < box.count(); ++i)
         texts << box.itemText(i);
     texts << "|";
-    for (int i = 0; i < WidgetOf(box)->count(); ++i)
-        texts << WidgetOf(box)->itemText(i);
+    for (int i = 0; i < HandleAs<QComboBox>(box)->count(); ++i)
+        texts << HandleAs<QComboBox>(box)->itemText(i);
     return texts;
 }
 } // namespace
@@ -63,7 +59,7 @@ TEST(CKyUIComboBoxTest, CurrentIndexEmitsIndexThenStringAndAlwaysSetsTheWidget)
     Recorder log;
     CKyUIComboBox box;
     Record(box, log);
-    QComboBox* widget = WidgetOf(box);
+    QComboBox* widget = HandleAs<QComboBox>(box);
     ASSERT_NE(widget, nullptr);
     EXPECT_EQ(widget->styleSheet(), "QComboBox { }");
     EXPECT_EQ(widget->minimumSize(), QSize(100, 25));
@@ -121,15 +117,15 @@ TEST(CKyUIComboBoxTest, CurrentTextChangesTheTextOnly)
 
     box.setEditable(true);
     box.setCurrentText("Feet");
-    EXPECT_EQ(WidgetOf(box)->currentText(), "Feet");
+    EXPECT_EQ(HandleAs<QComboBox>(box)->currentText(), "Feet");
     EXPECT_EQ(log.take(), QStringList({"string:Feet"}));
 
     box.setEditText("Yards");
     EXPECT_EQ(box.currentText(), "Yards");
-    EXPECT_EQ(WidgetOf(box)->currentText(), "Yards");
+    EXPECT_EQ(HandleAs<QComboBox>(box)->currentText(), "Yards");
     box.clearEditText();
     EXPECT_TRUE(box.currentText().isEmpty());
-    EXPECT_EQ(WidgetOf(box)->currentText(), "Yards");
+    EXPECT_EQ(HandleAs<QComboBox>(box)->currentText(), "Yards");
     EXPECT_TRUE(log.lines.isEmpty());
 }
 
@@ -148,7 +144,7 @@ TEST(CKyUIComboBoxTest, QueriesAnswerFromTheModelWhateverRoleOrFlags)
 
     EXPECT_EQ(box.itemData(0, Qt::DisplayRole), QVariant(25.4));
     // The user data never reaches the widget.
-    EXPECT_FALSE(WidgetOf(box)->itemData(0, Qt::UserRole).isValid());
+    EXPECT_FALSE(HandleAs<QComboBox>(box)->itemData(0, Qt::UserRole).isValid());
 
     box.setItemData(1, QVariant(3), Qt::DisplayRole);
     box.setItemData(2, QVariant(4));
@@ -169,10 +165,10 @@ TEST(CKyUIComboBoxTest, ItemsInsertionsRemovalsAndIndexesOutsideTheList)
         EXPECT_EQ(box.findText("B"), 1);
         EXPECT_EQ(box.itemData(1), QVariant(2));
         box.insertItem(0, "Z");
-        EXPECT_EQ(WidgetOf(box)->itemText(0), "Z");
-        EXPECT_TRUE(WidgetOf(box)->itemIcon(0).isNull());
+        EXPECT_EQ(HandleAs<QComboBox>(box)->itemText(0), "Z");
+        EXPECT_TRUE(HandleAs<QComboBox>(box)->itemIcon(0).isNull());
         box.insertItem(1, RedIcon(), "Y", QVariant(9));
-        EXPECT_FALSE(WidgetOf(box)->itemIcon(1).isNull());
+        EXPECT_FALSE(HandleAs<QComboBox>(box)->itemIcon(1).isNull());
         EXPECT_EQ(box.itemData(1), QVariant(9));
     }
     CKyUIComboBox box;

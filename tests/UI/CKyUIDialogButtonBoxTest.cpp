@@ -2,6 +2,7 @@
 #include "support/QtPrinters.h"
 #include "support/Recorder.h"
 #include "support/TestDialogs.h"
+#include "support/TestViews.h"
 
 #include <QtCore/QPointer>
 #include <QtWidgets/QDialogButtonBox>
@@ -9,11 +10,6 @@
 
 namespace
 {
-QDialogButtonBox* ToolkitBoxOf(const CKyUIDialogButtonBox& box)
-{
-    return qobject_cast<QDialogButtonBox*>(box.getHandle());
-}
-
 // Records the box's four signals and the three wrappers' clicked().
 void Record(CKyUIDialogButtonBox& box, Recorder& log)
 {
@@ -49,20 +45,17 @@ TEST(CKyUIDialogButtonBoxTest, HasOkCancelAndHelpWrappingTheToolkitButtons)
 {
     ShownDialog dialog;
     CKyUIDialogButtonBox& box = *dialog.box;
-    QDialogButtonBox* toolkit = ToolkitBoxOf(box);
+    QDialogButtonBox* toolkit = HandleAs<QDialogButtonBox>(box);
     ASSERT_NE(toolkit, nullptr);
     EXPECT_EQ(int(toolkit->standardButtons()), 0x01400400);
     EXPECT_EQ(toolkit->minimumHeight(), 30);
 
-    CKyUIPushButton* ok = box.button(CKyUIDialogButtonBox::Ok);
-    CKyUIPushButton* cancel = box.button(CKyUIDialogButtonBox::Cancel);
-    CKyUIPushButton* help = box.button(CKyUIDialogButtonBox::Help);
-    ASSERT_TRUE(ok && cancel && help);
-    EXPECT_EQ(ok->getHandle(), toolkit->button(QDialogButtonBox::Ok));
-    EXPECT_EQ(cancel->getHandle(), toolkit->button(QDialogButtonBox::Cancel));
-    EXPECT_EQ(help->getHandle(), toolkit->button(QDialogButtonBox::Help));
-    // The wrappers hold the box's plain buttons, not frontends of their own.
-    EXPECT_EQ(qobject_cast<CKyUIPushButtonFrontend*>(ok->getHandle()), nullptr);
+    // Each wrapper holds its plain toolkit button, not a frontend of its own.
+    for (auto which : {CKyUIDialogButtonBox::Ok, CKyUIDialogButtonBox::Cancel, CKyUIDialogButtonBox::Help}) {
+        ASSERT_NE(box.button(which), nullptr);
+        EXPECT_EQ(box.button(which)->getHandle(), toolkit->button(QDialogButtonBox::StandardButton(which)));
+        EXPECT_EQ(HandleAs<CKyUIPushButtonFrontend>(*box.button(which)), nullptr);
+    }
     // Owned by the dialog; its widget is the last in the root layout.
     EXPECT_EQ(box.parent(), &dialog);
     QLayout* column = qobject_cast<QWidget*>(dialog.GetLayout()->getHandle())->layout();
@@ -141,7 +134,7 @@ TEST(CKyUIDialogButtonBoxTest, DestroyingTheBoxLeavesTheToolkitButtonsToTheToolk
 {
     ShownDialog dialog;
     CKyUIDialogButtonBox* box = dialog.box;
-    QPointer<QDialogButtonBox> toolkit = ToolkitBoxOf(*box);
+    QPointer<QDialogButtonBox> toolkit = HandleAs<QDialogButtonBox>(*box);
     QPointer<QPushButton> ok = toolkit->button(QDialogButtonBox::Ok);
     QPointer<QPushButton> help = toolkit->button(QDialogButtonBox::Help);
 
@@ -171,12 +164,12 @@ TEST(CKyUIDialogButtonBoxTest, ABoxMadeBeforeTheSetUpOrWithoutDialogStillWorks)
     SampleDialog dialog;
     auto* early = new CKyUIDialogButtonBox(&dialog);
     EXPECT_EQ(early->parent(), &dialog);
-    EXPECT_EQ(ToolkitBoxOf(*early)->parentWidget(), dialog.widget());
+    EXPECT_EQ(HandleAs<QDialogButtonBox>(*early)->parentWidget(), dialog.widget());
 
     CKyUIDialogButtonBox orphan(nullptr);
     EXPECT_EQ(orphan.parent(), nullptr);
-    ASSERT_NE(ToolkitBoxOf(orphan), nullptr);
-    EXPECT_EQ(ToolkitBoxOf(orphan)->parentWidget(), nullptr);
+    ASSERT_NE(HandleAs<QDialogButtonBox>(orphan), nullptr);
+    EXPECT_EQ(HandleAs<QDialogButtonBox>(orphan)->parentWidget(), nullptr);
     EXPECT_NE(orphan.button(CKyUIDialogButtonBox::Help), nullptr);
     EXPECT_TRUE(host.calls.empty());
 }

