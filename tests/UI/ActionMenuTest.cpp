@@ -115,56 +115,50 @@ TEST(MenuTest, CheckableActionTriggeredFromThePoppedUpMenu)
     EXPECT_FALSE(action->isChecked());
 }
 
-TEST(MenuTest, AddedActionsBelongToTheMenuAndSurviveClear)
-{
-    CKyUIMenu menu;
-    QMenu* toolkit = HandleAs<QMenu>(menu);
-    ASSERT_NE(toolkit, nullptr);
-    EXPECT_EQ(toolkit->styleSheet(), "QMenu { }");
-    EXPECT_EQ(menu.impl()->GetFrontendClassName(), "QMenu");
-
-    auto* first = new CKyUIAction;
-    auto* second = new CKyUIAction;
-    menu.addAction(first);
-    menu.addSeparator();
-    menu.addAction(second);
-    menu.addAction(nullptr);
-    EXPECT_EQ(menu.children(), QList<CKyUIObject*>({first, second}));
-    ASSERT_EQ(toolkit->actions().size(), 3);
-    EXPECT_TRUE(toolkit->actions().at(1)->isSeparator());
-    EXPECT_TRUE(static_cast<CKyUIMenuImpl*>(menu.impl())->Actions().empty());
-
-    menu.clear();
-    EXPECT_TRUE(toolkit->actions().isEmpty());
-    EXPECT_EQ(menu.children(), QList<CKyUIObject*>({first, second}));
-    EXPECT_NE(HandleAs<QAction>(*first), nullptr);
-
-    // Again, at the end of both lists.
-    menu.addAction(first);
-    EXPECT_EQ(toolkit->actions(), QList<QAction*>({HandleAs<QAction>(*first)}));
-    EXPECT_EQ(menu.children(), QList<CKyUIObject*>({second, first}));
-}
-
-TEST(MenuTest, DeletingTheMenuDeletesItsActionsAndReleasesItsWidgetLaterTheirsStayQuiet)
+// Added actions belong to the menu and survive a clear; deleting the menu
+// deletes them and releases its widget later, while theirs stay, reaching nobody.
+TEST(MenuTest, AddedActionsBelongToTheMenuSurviveClearAndGoWithIt)
 {
     auto* menu = new CKyUIMenu;
-    bool actionGone = false;
-    auto* action = new WatchedAction;
-    action->gone = &actionGone;
-    menu->addAction(action);
-    Recorder log;
-    log.on(action->triggered(), "triggered");
-    QPointer<QMenu> toolkitMenu(HandleAs<QMenu>(*menu));
-    QPointer<QAction> toolkitAction(HandleAs<QAction>(*action));
+    QPointer<QMenu> toolkit(HandleAs<QMenu>(*menu));
+    ASSERT_FALSE(toolkit.isNull());
+    EXPECT_EQ(toolkit->styleSheet(), "QMenu { }");
+    EXPECT_EQ(menu->impl()->GetFrontendClassName(), "QMenu");
 
+    bool firstGone = false;
+    auto* first = new WatchedAction;
+    first->gone = &firstGone;
+    auto* second = new CKyUIAction;
+    menu->addAction(first);
+    menu->addSeparator();
+    menu->addAction(second);
+    menu->addAction(nullptr);
+    EXPECT_EQ(menu->children(), QList<CKyUIObject*>({first, second}));
+    ASSERT_EQ(toolkit->actions().size(), 3);
+    EXPECT_TRUE(toolkit->actions().at(1)->isSeparator());
+    EXPECT_TRUE(static_cast<CKyUIMenuImpl*>(menu->impl())->Actions().empty());
+
+    menu->clear();
+    EXPECT_TRUE(toolkit->actions().isEmpty());
+    EXPECT_EQ(menu->children(), QList<CKyUIObject*>({first, second}));
+    QPointer<QAction> firstAction(HandleAs<QAction>(*first));
+    EXPECT_FALSE(firstAction.isNull());
+
+    // Again, at the end of both lists.
+    menu->addAction(first);
+    EXPECT_EQ(toolkit->actions(), QList<QAction*>({firstAction.data()}));
+    EXPECT_EQ(menu->children(), QList<CKyUIObject*>({second, first}));
+
+    Recorder log;
+    log.on(first->triggered(), "triggered");
     delete menu;
-    EXPECT_TRUE(actionGone);
-    EXPECT_FALSE(toolkitMenu.isNull());
+    EXPECT_TRUE(firstGone);
+    EXPECT_FALSE(toolkit.isNull());
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    EXPECT_TRUE(toolkitMenu.isNull());
-    // The action is not a widget, so not released; triggering it reaches nobody.
-    ASSERT_FALSE(toolkitAction.isNull());
-    toolkitAction->trigger();
+    EXPECT_TRUE(toolkit.isNull());
+    // The action is not a widget, so not released.
+    ASSERT_FALSE(firstAction.isNull());
+    firstAction->trigger();
     EXPECT_TRUE(log.lines.isEmpty());
-    delete toolkitAction.data();
+    delete firstAction.data();
 }

@@ -113,7 +113,7 @@ TEST(CKyUIBaseViewTest, AViewWhoseWidgetWentWithItsFormerContainerIsQuiet)
     EXPECT_EQ(other.children().size(), 1);
 }
 
-TEST(CKyUIBaseViewTest, AViewWrappingAWidgetCanTakeChildren)
+TEST(CKyUIBaseViewTest, AViewWrappingAWidgetCanTakeChildrenTheFactoryCreatesNoWidget)
 {
     QWidget host;
     CKyUIBaseView wrapper;
@@ -126,6 +126,17 @@ TEST(CKyUIBaseViewTest, AViewWrappingAWidgetCanTakeChildren)
     EXPECT_NE(wrapper.impl(), nullptr);
     EXPECT_TRUE(wrapper.isEnabled());
     wrapper.setHandle(nullptr);
+
+    // A named class has no widget factory behind it: the view is left without one.
+    struct NamedImpl : CKyUIBaseViewImpl
+    {
+        using CKyUIBaseViewImpl::CKyUIBaseViewImpl;
+        QString GetFrontendClassName() override { return QStringLiteral("QWidget"); }
+    };
+    QWidget earlier;
+    HandleView view(&earlier);
+    NamedImpl(&view).CreateFrontendControl();
+    EXPECT_EQ(view.getHandle(), nullptr);
 }
 
 TEST(CKyUIBaseViewTest, DestructionReleasesOnlyWidgetHandlesAndOnlyLater)
@@ -181,18 +192,4 @@ TEST(CKyUIBaseViewTest, TabOrderAndFocusPolicyReachTheWidgets)
     EXPECT_EQ(int(first->focusPolicy()), 3);
     firstView.setHandle(nullptr);
     thirdView.setHandle(nullptr);
-}
-
-// A named class has no widget factory behind it: the view is left without one.
-TEST(CKyUIBaseViewTest, TheFactoryCreatesNoWidget)
-{
-    struct NamedImpl : CKyUIBaseViewImpl
-    {
-        using CKyUIBaseViewImpl::CKyUIBaseViewImpl;
-        QString GetFrontendClassName() override { return QStringLiteral("QWidget"); }
-    };
-    QWidget earlier;
-    HandleView view(&earlier);
-    NamedImpl(&view).CreateFrontendControl();
-    EXPECT_EQ(view.getHandle(), nullptr);
 }
