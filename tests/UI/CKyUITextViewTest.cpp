@@ -109,6 +109,7 @@ TEST(CKyUITextViewTest, ReplacementIsPlainOneUndoableStepAndAddingAppendsABlock)
     // addText shows markup literally, addHtmlText formatted, each in a block of its own.
     view.addText("a < b > c & d");
     EXPECT_EQ(widget->toPlainText(), "a < b > c & d");
+    EXPECT_EQ(view.getContent(), widget->toPlainText());
     view.addHtmlText("<b>bold</b>");
     EXPECT_EQ(widget->document()->blockCount(), 2);
     const QTextBlock second = widget->document()->lastBlock();
