@@ -23,20 +23,17 @@ struct WatchedAction : CKyUIAction
     ~WatchedAction() override { *gone = true; }
 };
 
-CKyUIActionImpl* ImplOf(CKyUIAction& action)
-{
-    return static_cast<CKyUIActionImpl*>(action.impl());
-}
 } // namespace
 
 TEST(ActionTest, SettersStoreAndReachTheToolkitExceptEnablingTriggeredCarriesTheState)
 {
     CKyUIAction action;
     QAction* toolkit = HandleAs<QAction>(action);
+    auto* impl = static_cast<CKyUIActionImpl*>(action.impl());
     ASSERT_NE(toolkit, nullptr);
     EXPECT_EQ(toolkit->parent(), nullptr);
     EXPECT_EQ(action.impl()->GetFrontendClassName(), "QAction");
-    EXPECT_TRUE(ImplOf(action)->IsVisible());
+    EXPECT_TRUE(impl->IsVisible());
 
     // triggered carries the toolkit's checked state, unless blocked.
     Recorder log;
@@ -54,7 +51,7 @@ TEST(ActionTest, SettersStoreAndReachTheToolkitExceptEnablingTriggeredCarriesThe
 
     action.setResourceIcon(":/commonui/resources/icons/chevron_up.png");
     EXPECT_TRUE(toolkit->icon().isNull());
-    EXPECT_TRUE(ImplOf(action)->Icon().isNull());
+    EXPECT_TRUE(impl->Icon().isNull());
 
     action.setChecked(true);
     EXPECT_TRUE(toolkit->isCheckable());
@@ -62,7 +59,7 @@ TEST(ActionTest, SettersStoreAndReachTheToolkitExceptEnablingTriggeredCarriesThe
     EXPECT_TRUE(action.isChecked());
 
     action.setEnabled(false);
-    EXPECT_FALSE(ImplOf(action)->IsEnabled());
+    EXPECT_FALSE(impl->IsEnabled());
     EXPECT_TRUE(toolkit->isEnabled());
 
     action.setVisible(false);

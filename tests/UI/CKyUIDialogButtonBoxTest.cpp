@@ -14,18 +14,12 @@ namespace
 void Record(CKyUIDialogButtonBox& box, Recorder& log)
 {
     log.on(box.accepted(), "accepted").on(box.rejected(), "rejected").on(box.helpRequest(), "helpRequest");
-    const std::pair<CKyUIDialogButtonBox::StandardButton, QString> wrappers[] = {
-        {CKyUIDialogButtonBox::Ok, "Ok"},
-        {CKyUIDialogButtonBox::Cancel, "Cancel"},
-        {CKyUIDialogButtonBox::Help, "Help"}};
-    box.clicked().connect([&log, &box, wrappers](CKyUIPushButton* which) {
-        QString name = "?";
-        for (const auto& wrapper : wrappers)
-            name = which == box.button(wrapper.first) ? wrapper.second : name;
-        log.add("clicked", name);
+    box.clicked().connect([&log, &box](CKyUIPushButton* which) {
+        log.add("clicked", which == box.button(CKyUIDialogButtonBox::Help) ? "Help" : "another");
     });
-    for (const auto& wrapper : wrappers)
-        log.on(box.button(wrapper.first)->clicked(), wrapper.second + " wrapper clicked");
+    log.on(box.button(CKyUIDialogButtonBox::Ok)->clicked(), "Ok wrapper clicked");
+    log.on(box.button(CKyUIDialogButtonBox::Cancel)->clicked(), "Cancel wrapper clicked");
+    log.on(box.button(CKyUIDialogButtonBox::Help)->clicked(), "Help wrapper clicked");
 }
 
 // A dialog set up and shown without a modal loop. It counts accept() and
