@@ -53,6 +53,9 @@ TEST(ActionTest, SettersStoreAndReachTheToolkitExceptEnablingTriggeredCarriesThe
     EXPECT_TRUE(toolkit->icon().isNull());
     EXPECT_TRUE(impl->Icon().isNull());
 
+    // The blocked trigger left the toolkit checked: each change must come from the action.
+    action.setChecked(false);
+    EXPECT_FALSE(toolkit->isChecked());
     action.setChecked(true);
     EXPECT_TRUE(toolkit->isCheckable());
     EXPECT_TRUE(toolkit->isChecked());
