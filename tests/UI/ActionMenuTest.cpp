@@ -14,126 +14,80 @@
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QPushButton>
 
-#include <vector>
-
 namespace
 {
-QAction* ActionOf(const CKyUIAction& action)
-{
-    return qobject_cast<QAction*>(action.getHandle());
-}
-
-QMenu* MenuOf(const CKyUIMenu& menu)
-{
-    return qobject_cast<QMenu*>(menu.getHandle());
-}
-
 // Tells when it is deleted.
-class WatchedAction : public CKyUIAction
+struct WatchedAction : CKyUIAction
 {
-public:
-    explicit WatchedAction(bool* gone)
-        : m_gone(gone)
-    {}
-    ~WatchedAction() override { *m_gone = true; }
-
-private:
-    bool* m_gone;
+    bool* gone = nullptr;
+    ~WatchedAction() override { *gone = true; }
 };
 
-CKyUIActionImpl* ImplOf(CKyUIAction& action)
-{
-    return static_cast<CKyUIActionImpl*>(action.impl());
-}
-
-// A shown window with a button near its top left, the view a menu opens under.
-class MenuPopupTest : public ::testing::Test
-{
-protected:
-    void SetUp() override
-    {
-        window.setGeometry(100, 100, 400, 300);
-        button = new QPushButton("Options", &window);
-        button->setGeometry(150, 20, 200, 30);
-        window.show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
-        view.reset(new HandleView(button));
-    }
-
-    void TearDown() override
-    {
-        if (QMenu* shown = MenuOf(menu))
-            shown->hide();
-    }
-
-    QWidget window;
-    QPushButton* button = nullptr;
-    std::unique_ptr<HandleView> view;
-    CKyUIMenu menu;
-};
 } // namespace
 
-TEST(ActionTest, SettersStoreAndReachTheToolkitExceptEnabling)
+TEST(ActionTest, SettersStoreAndReachTheToolkitExceptEnablingTriggeredCarriesTheState)
 {
     CKyUIAction action;
-    QAction* toolkit = ActionOf(action);
+    QAction* toolkit = HandleAs<QAction>(action);
+    auto* impl = static_cast<CKyUIActionImpl*>(action.impl());
     ASSERT_NE(toolkit, nullptr);
     EXPECT_EQ(toolkit->parent(), nullptr);
     EXPECT_EQ(action.impl()->GetFrontendClassName(), "QAction");
-    EXPECT_TRUE(ImplOf(action)->IsVisible());
+    EXPECT_TRUE(impl->IsVisible());
+
+    // triggered carries the toolkit's checked state, unless blocked.
+    Recorder log;
+    log.on(action.triggered(), "triggered");
+    toolkit->trigger();
+    action.setCheckable(true);
+    toolkit->trigger();
+    toolkit->trigger();
+    action.blockSignals(true);
+    toolkit->trigger();
+    EXPECT_EQ(log.lines, QStringList({"triggered:false", "triggered:true", "triggered:false"}));
+
     action.setText("Snap to grid");
-    EXPECT_EQ(action.text(), "Snap to grid");
     EXPECT_EQ(toolkit->text(), "Snap to grid");
 
     action.setResourceIcon(":/commonui/resources/icons/chevron_up.png");
     EXPECT_TRUE(toolkit->icon().isNull());
-    EXPECT_TRUE(ImplOf(action)->Icon().isNull());
+    EXPECT_TRUE(impl->Icon().isNull());
 
-    action.setCheckable(true);
+    // The blocked trigger left the toolkit checked: each change must come from the action.
+    action.setChecked(false);
+    EXPECT_FALSE(toolkit->isChecked());
     action.setChecked(true);
     EXPECT_TRUE(toolkit->isCheckable());
     EXPECT_TRUE(toolkit->isChecked());
     EXPECT_TRUE(action.isChecked());
 
     action.setEnabled(false);
-    EXPECT_FALSE(ImplOf(action)->IsEnabled());
+    EXPECT_FALSE(impl->IsEnabled());
     EXPECT_TRUE(toolkit->isEnabled());
 
     action.setVisible(false);
     EXPECT_FALSE(toolkit->isVisible());
 }
 
-TEST(ActionTest, TriggeredCarriesTheToolkitStateUnlessBlocked)
+// The menu opens under a button near the window's top left; a view without
+// a widget, or none, opens nothing.
+TEST(MenuTest, CheckableActionTriggeredFromThePoppedUpMenu)
 {
-    CKyUIAction action;
-    Recorder log;
-    log.on(action.triggered(), "triggered");
-    ActionOf(action)->trigger();
-    action.setCheckable(true);
-    ActionOf(action)->trigger();
-    ActionOf(action)->trigger();
-    action.blockSignals(true);
-    ActionOf(action)->trigger();
-    EXPECT_EQ(log.lines, QStringList({"triggered:false", "triggered:true", "triggered:false"}));
-}
+    QWidget window;
+    window.setGeometry(100, 100, 400, 300);
+    auto* button = new QPushButton("Options", &window);
+    button->setGeometry(150, 20, 200, 30);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    HandleView view(button);
+    CKyUIMenu menu;
+    QMenu* shown = HandleAs<QMenu>(menu);
+    HandleView withoutWidget(new QObject(&window));
+    menu.popup(&withoutWidget);
+    menu.popup(nullptr);
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(shown->isVisible());
 
-TEST(ActionTest, ToolkitActionOutlivesItsActionQuietly)
-{
-    auto* action = new CKyUIAction;
-    Recorder log;
-    log.on(action->triggered(), "triggered");
-    QPointer<QAction> toolkit(ActionOf(*action));
-    delete action;
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    // Not a widget, so not released; triggering it reaches nobody.
-    ASSERT_FALSE(toolkit.isNull());
-    toolkit->trigger();
-    EXPECT_TRUE(log.lines.isEmpty());
-    delete toolkit.data();
-}
-
-TEST_F(MenuPopupTest, CheckableActionTriggeredFromThePoppedUpMenu)
-{
     auto* action = new CKyUIAction;
     action->setText("Snap to grid");
     action->setCheckable(true);
@@ -146,13 +100,12 @@ TEST_F(MenuPopupTest, CheckableActionTriggeredFromThePoppedUpMenu)
     menu.addSeparator();
     menu.addAction(action);
 
-    QMenu* shown = MenuOf(menu);
-    menu.popup(view.get());
+    menu.popup(&view);
     ASSERT_TRUE(QTest::qWaitForWindowExposed(shown));
     const QPoint belowRightEdge(button->width() - shown->sizeHint().width(), button->height());
     EXPECT_EQ(shown->pos(), button->mapToGlobal(belowRightEdge));
 
-    QAction* entry = ActionOf(*action);
+    QAction* entry = HandleAs<QAction>(*action);
     EXPECT_TRUE(entry->isEnabled());
     QTest::mouseClick(shown, Qt::LeftButton, Qt::NoModifier, shown->actionGeometry(entry).center());
     EXPECT_TRUE(shown->isHidden());
@@ -162,59 +115,50 @@ TEST_F(MenuPopupTest, CheckableActionTriggeredFromThePoppedUpMenu)
     EXPECT_FALSE(action->isChecked());
 }
 
-TEST_F(MenuPopupTest, PopupNeedsAWidgetUnderIt)
-{
-    HandleView withoutWidget(new QObject(&window));
-    menu.popup(&withoutWidget);
-    menu.popup(nullptr);
-    QCoreApplication::processEvents();
-    EXPECT_FALSE(MenuOf(menu)->isVisible());
-}
-
-TEST(MenuTest, AddedActionsBelongToTheMenuAndSurviveClear)
-{
-    CKyUIMenu menu;
-    QMenu* toolkit = MenuOf(menu);
-    ASSERT_NE(toolkit, nullptr);
-    EXPECT_EQ(toolkit->styleSheet(), "QMenu { }");
-    EXPECT_EQ(menu.impl()->GetFrontendClassName(), "QMenu");
-
-    auto* first = new CKyUIAction;
-    auto* second = new CKyUIAction;
-    menu.addAction(first);
-    menu.addSeparator();
-    menu.addAction(second);
-    menu.addAction(nullptr);
-    EXPECT_EQ(menu.children(), QList<CKyUIObject*>({first, second}));
-    ASSERT_EQ(toolkit->actions().size(), 3);
-    EXPECT_TRUE(toolkit->actions().at(1)->isSeparator());
-    EXPECT_TRUE(static_cast<CKyUIMenuImpl*>(menu.impl())->Actions().empty());
-
-    menu.clear();
-    EXPECT_TRUE(toolkit->actions().isEmpty());
-    EXPECT_EQ(menu.children(), QList<CKyUIObject*>({first, second}));
-    EXPECT_NE(ActionOf(*first), nullptr);
-
-    // Again, at the end of both lists.
-    menu.addAction(first);
-    EXPECT_EQ(toolkit->actions(), QList<QAction*>({ActionOf(*first)}));
-    EXPECT_EQ(menu.children(), QList<CKyUIObject*>({second, first}));
-}
-
-TEST(MenuTest, DeletingTheMenuDeletesItsActionsAndReleasesItsWidgetLater)
+// Added actions belong to the menu and survive a clear; deleting the menu
+// deletes them and releases its widget later, while theirs stay, reaching nobody.
+TEST(MenuTest, AddedActionsBelongToTheMenuSurviveClearAndGoWithIt)
 {
     auto* menu = new CKyUIMenu;
-    bool actionGone = false;
-    auto* action = new WatchedAction(&actionGone);
-    menu->addAction(action);
-    QPointer<QMenu> toolkitMenu(MenuOf(*menu));
-    QPointer<QAction> toolkitAction(ActionOf(*action));
+    QPointer<QMenu> toolkit(HandleAs<QMenu>(*menu));
+    ASSERT_FALSE(toolkit.isNull());
+    EXPECT_EQ(toolkit->styleSheet(), "QMenu { }");
+    EXPECT_EQ(menu->impl()->GetFrontendClassName(), "QMenu");
 
+    bool firstGone = false;
+    auto* first = new WatchedAction;
+    first->gone = &firstGone;
+    auto* second = new CKyUIAction;
+    menu->addAction(first);
+    menu->addSeparator();
+    menu->addAction(second);
+    menu->addAction(nullptr);
+    EXPECT_EQ(menu->children(), QList<CKyUIObject*>({first, second}));
+    ASSERT_EQ(toolkit->actions().size(), 3);
+    EXPECT_TRUE(toolkit->actions().at(1)->isSeparator());
+    EXPECT_TRUE(static_cast<CKyUIMenuImpl*>(menu->impl())->Actions().empty());
+
+    menu->clear();
+    EXPECT_TRUE(toolkit->actions().isEmpty());
+    EXPECT_EQ(menu->children(), QList<CKyUIObject*>({first, second}));
+    QPointer<QAction> firstAction(HandleAs<QAction>(*first));
+    EXPECT_FALSE(firstAction.isNull());
+
+    // Again, at the end of both lists.
+    menu->addAction(first);
+    EXPECT_EQ(toolkit->actions(), QList<QAction*>({firstAction.data()}));
+    EXPECT_EQ(menu->children(), QList<CKyUIObject*>({second, first}));
+
+    Recorder log;
+    log.on(first->triggered(), "triggered");
     delete menu;
-    EXPECT_TRUE(actionGone);
-    EXPECT_FALSE(toolkitMenu.isNull());
+    EXPECT_TRUE(firstGone);
+    EXPECT_FALSE(toolkit.isNull());
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    EXPECT_TRUE(toolkitMenu.isNull());
-    ASSERT_FALSE(toolkitAction.isNull());
-    delete toolkitAction.data();
+    EXPECT_TRUE(toolkit.isNull());
+    // The action is not a widget, so not released.
+    ASSERT_FALSE(firstAction.isNull());
+    firstAction->trigger();
+    EXPECT_TRUE(log.lines.isEmpty());
+    delete firstAction.data();
 }

@@ -13,114 +13,83 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 
-namespace
-{
-void RunDeferredDeletions()
-{
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-}
-} // namespace
-
+// The view's own record of size and visibility is not the widget's; what it
+// forwards reaches the widget.
 TEST(CKyUIBaseViewTest, RecordStartsEmptyAndIsNotTheWidgetsGeometry)
 {
-    auto* label = new QLabel;
-    HandleView view(label);
+    auto* edit = new QLineEdit;
+    HandleView view(edit);
+    const auto size = [&view] { return QSize(view.width(), view.height()); };
     EXPECT_FALSE(view.isVisible());
     EXPECT_TRUE(view.isEnabled());
     EXPECT_FALSE(view.hasFocus());
-    EXPECT_EQ(view.width(), 0);
-    EXPECT_EQ(view.height(), 0);
+    EXPECT_EQ(size(), QSize(0, 0));
 
-    const QSize before = label->size();
+    const QSize before = edit->size();
     view.resize(200, 100);
-    EXPECT_EQ(view.width(), 200);
-    EXPECT_EQ(view.height(), 100);
-    EXPECT_EQ(label->size(), before);
-
+    EXPECT_EQ(size(), QSize(200, 100));
     view.setPreferableSize(50, 20);
-    EXPECT_EQ(view.width(), 50);
-    EXPECT_EQ(view.height(), 20);
-    EXPECT_EQ(label->size(), before);
+    EXPECT_EQ(size(), QSize(50, 20));
+    EXPECT_EQ(edit->size(), before);
 
     // The widget shown by other means is not reflected either.
-    label->show();
+    edit->show();
     EXPECT_FALSE(view.isVisible());
     view.setVisible(true);
     EXPECT_TRUE(view.isVisible());
     view.setVisible(false);
-    EXPECT_TRUE(label->isHidden());
-}
+    EXPECT_TRUE(edit->isHidden());
 
-TEST(CKyUIBaseViewTest, EnablingReachesTheWidget)
-{
-    auto* edit = new QLineEdit;
-    HandleView view(edit);
     view.setDisabled(true);
     EXPECT_FALSE(view.isEnabled());
     EXPECT_FALSE(edit->isEnabled());
     view.setEnabled(true);
     EXPECT_TRUE(edit->isEnabled());
-}
-
-TEST(CKyUIBaseViewTest, SizeLimitsReachTheWidget)
-{
-    auto* label = new QLabel;
-    HandleView view(label);
     view.setMinimumWidth(10);
     view.setMinimumHeight(11);
     view.setMaximumWidth(300);
     view.setMaximumHeight(301);
-    EXPECT_EQ(label->minimumSize(), QSize(10, 11));
-    EXPECT_EQ(label->maximumSize(), QSize(300, 301));
-    view.setFocusPolicy(Qt::ClickFocus);
-    EXPECT_EQ(label->focusPolicy(), Qt::ClickFocus);
+    EXPECT_EQ(edit->minimumSize(), QSize(10, 11));
+    EXPECT_EQ(edit->maximumSize(), QSize(300, 301));
 }
 
+// addView takes a view once and only one without a parent; insertView takes
+// it over; removeView gives back only its own; null, itself and its
+// ancestors are refused.
 TEST(CKyUIBaseViewTest, AddIsOnceInsertMovesRemoveOnlyOwnChildren)
 {
     CKyUIVerticalLayout first;
     CKyUIVerticalLayout second;
     auto* child = new CKyUIVerticalLayout;
-
     first.addView(child, 1);
     first.addView(child, 1);
     EXPECT_EQ(first.children().size(), 1);
-
-    // addView ignores a view that has a parent ...
     second.addView(child, 1);
     EXPECT_EQ(child->parent(), &first);
-    // ... removeView one that belongs to someone else ...
     second.removeView(child);
     EXPECT_EQ(child->parent(), &first);
-    // ... but insertView takes it over.
     second.insertView(child, 0, 1);
     EXPECT_EQ(child->parent(), &second);
     EXPECT_TRUE(first.children().isEmpty());
     EXPECT_EQ(second.children(), QList<CKyUIObject*>({child}));
-
     second.removeView(child);
     EXPECT_EQ(child->parent(), nullptr);
     EXPECT_TRUE(second.children().isEmpty());
     delete child;
-}
 
-TEST(CKyUIBaseViewTest, NullAndSelfAreIgnored)
-{
-    CKyUIVerticalLayout layout;
-    layout.addView(nullptr, 1);
-    layout.insertView(nullptr, 3, 1);
-    layout.removeView(nullptr);
-    layout.addView(&layout, 1);
-    layout.insertView(&layout, 0, 1);
-    layout.setTabOrder(nullptr, &layout);
-    EXPECT_TRUE(layout.children().isEmpty());
-    EXPECT_EQ(layout.parent(), nullptr);
-    // Nor can an ancestor become a child of its descendant.
+    first.addView(nullptr, 1);
+    first.insertView(nullptr, 3, 1);
+    first.removeView(nullptr);
+    first.addView(&first, 1);
+    first.insertView(&first, 0, 1);
+    first.setTabOrder(nullptr, &first);
+    EXPECT_TRUE(first.children().isEmpty());
+    EXPECT_EQ(first.parent(), nullptr);
     auto* row = new CKyUIVerticalLayout;
-    layout.addView(row);
-    row->addView(&layout);
-    row->insertView(&layout, 0);
-    EXPECT_EQ(layout.parent(), nullptr);
+    first.addView(row);
+    row->addView(&first);
+    row->insertView(&first, 0);
+    EXPECT_EQ(first.parent(), nullptr);
     EXPECT_TRUE(row->children().isEmpty());
 }
 
@@ -133,7 +102,7 @@ TEST(CKyUIBaseViewTest, AViewWhoseWidgetWentWithItsFormerContainerIsQuiet)
     column->addView(label.get());
     column->removeView(label.get());
     delete column;
-    RunDeferredDeletions();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_EQ(label->getHandle(), nullptr);
     label->setText("kept");
     label->setBorderWidth(2.0f);
@@ -144,7 +113,7 @@ TEST(CKyUIBaseViewTest, AViewWhoseWidgetWentWithItsFormerContainerIsQuiet)
     EXPECT_EQ(other.children().size(), 1);
 }
 
-TEST(CKyUIBaseViewTest, AViewWrappingAWidgetCanTakeChildren)
+TEST(CKyUIBaseViewTest, AViewWrappingAWidgetCanTakeChildrenTheFactoryCreatesNoWidget)
 {
     QWidget host;
     CKyUIBaseView wrapper;
@@ -157,6 +126,17 @@ TEST(CKyUIBaseViewTest, AViewWrappingAWidgetCanTakeChildren)
     EXPECT_NE(wrapper.impl(), nullptr);
     EXPECT_TRUE(wrapper.isEnabled());
     wrapper.setHandle(nullptr);
+
+    // A named class has no widget factory behind it: the view is left without one.
+    struct NamedImpl : CKyUIBaseViewImpl
+    {
+        using CKyUIBaseViewImpl::CKyUIBaseViewImpl;
+        QString GetFrontendClassName() override { return QStringLiteral("QWidget"); }
+    };
+    QWidget earlier;
+    HandleView view(&earlier);
+    NamedImpl(&view).CreateFrontendControl();
+    EXPECT_EQ(view.getHandle(), nullptr);
 }
 
 TEST(CKyUIBaseViewTest, DestructionReleasesOnlyWidgetHandlesAndOnlyLater)
@@ -168,7 +148,7 @@ TEST(CKyUIBaseViewTest, DestructionReleasesOnlyWidgetHandlesAndOnlyLater)
         HandleView objectView(plain);
     }
     ASSERT_FALSE(label.isNull());
-    RunDeferredDeletions();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_TRUE(label.isNull());
     ASSERT_FALSE(plain.isNull());
     delete plain;
@@ -189,49 +169,27 @@ TEST(CKyUIBaseViewTest, WithoutImplementationEverythingIsQuiet)
     EXPECT_EQ(bare.backgroundRole(), 9);
 }
 
-TEST(CKyUIBaseViewTest, TabOrderLinksTheWidgets)
+// Tab order links the widgets; every combination of the toolkit's focus
+// flags reaches the widget, other numbers change nothing.
+TEST(CKyUIBaseViewTest, TabOrderAndFocusPolicyReachTheWidgets)
 {
     QWidget window;
     auto* first = new QLineEdit(&window);
-    auto* second = new QLineEdit(&window);
+    new QLineEdit(&window);
     auto* third = new QLineEdit(&window);
     HandleView firstView(first);
     HandleView thirdView(third);
-
     firstView.setTabOrder(&firstView, &thirdView);
-
     EXPECT_EQ(first->nextInFocusChain(), third);
-    EXPECT_NE(first->nextInFocusChain(), second);
+
+    for (int policy = 0; policy <= 15; ++policy) {
+        firstView.setFocusPolicy(policy);
+        EXPECT_EQ(int(first->focusPolicy()), policy);
+    }
+    firstView.setFocusPolicy(Qt::TabFocus | Qt::ClickFocus);
+    for (int policy : {-1, 16, 17, INT_MAX, INT_MIN})
+        firstView.setFocusPolicy(policy);
+    EXPECT_EQ(int(first->focusPolicy()), 3);
     firstView.setHandle(nullptr);
     thirdView.setHandle(nullptr);
-}
-
-// Every combination of the toolkit's focus flags reaches the widget; other
-// numbers change nothing.
-TEST(CKyUIBaseViewTest, FocusPolicyPassesEveryCombinationOfTheFlags)
-{
-    CKyUILabel view;
-    auto* widget = qobject_cast<QWidget*>(view.getHandle());
-    for (int policy = 0; policy <= 15; ++policy) {
-        view.setFocusPolicy(policy);
-        EXPECT_EQ(int(widget->focusPolicy()), policy);
-    }
-    view.setFocusPolicy(Qt::TabFocus | Qt::ClickFocus);
-    for (int policy : {-1, 16, 17, INT_MAX, INT_MIN})
-        view.setFocusPolicy(policy);
-    EXPECT_EQ(int(widget->focusPolicy()), 3);
-}
-
-// A named class has no widget factory behind it: the view is left without one.
-TEST(CKyUIBaseViewTest, TheFactoryCreatesNoWidget)
-{
-    struct NamedImpl : CKyUIBaseViewImpl
-    {
-        using CKyUIBaseViewImpl::CKyUIBaseViewImpl;
-        QString GetFrontendClassName() override { return QStringLiteral("QWidget"); }
-    };
-    QWidget earlier;
-    HandleView view(&earlier);
-    NamedImpl(&view).CreateFrontendControl();
-    EXPECT_EQ(view.getHandle(), nullptr);
 }

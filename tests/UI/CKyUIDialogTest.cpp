@@ -4,7 +4,6 @@
 #include "support/TestDialogs.h"
 
 #include <QtCore/QPointer>
-#include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QGroupBox>
 #include <QtWidgets/QVBoxLayout>
 
@@ -67,90 +66,31 @@ TEST(CKyUIDialogTest, EachWayOutGivesItsResultNotificationsAndSignals)
 
 TEST(CKyUIDialogTest, DoneAndHideCloseWithTheGivenOrStoredCode)
 {
-    RecordingHost host;
-    SampleDialog withDone;
-    EXPECT_EQ(RunModally(withDone, [](SampleDialog& self) { self.done(7); }), 7);
-    EXPECT_EQ(host.calls, (std::vector<bool>{true, false}));
-
-    host.calls.clear();
-    SampleDialog withHide;
-    EXPECT_EQ(RunModally(withHide,
-                         [](SampleDialog& self) {
-                             self.setResult(5);
-                             // Stored only: the toolkit learns the code when the dialog closes.
-                             EXPECT_EQ(self.widget()->result(), 0);
-                             EXPECT_TRUE(self.widget()->isVisible());
-                             self.hide();
-                         }),
-              5);
-    EXPECT_EQ(host.calls, (std::vector<bool>{true, false}));
-
-    host.calls.clear();
-    SampleDialog withSetVisible;
-    EXPECT_EQ(RunModally(withSetVisible,
-                         [](SampleDialog& self) {
-                             self.setResult(3);
-                             self.setVisible(false);
-                         }),
-              3);
-    EXPECT_EQ(host.calls, (std::vector<bool>{true, false}));
+    const std::pair<std::function<void(SampleDialog&)>, int> rows[] = {
+        {[](SampleDialog& self) { self.done(7); }, 7},
+        {[](SampleDialog& self) {
+             self.setResult(5);
+             // Stored only: the toolkit learns the code when the dialog closes.
+             EXPECT_EQ(self.widget()->result(), 0);
+             EXPECT_TRUE(self.widget()->isVisible());
+             self.hide();
+         },
+         5},
+        {[](SampleDialog& self) {
+             self.setResult(3);
+             self.setVisible(false);
+         },
+         3},
+    };
+    for (const auto& row : rows) {
+        RecordingHost host;
+        SampleDialog dialog;
+        EXPECT_EQ(RunModally(dialog, row.first), row.second);
+        EXPECT_EQ(host.calls, (std::vector<bool>{true, false}));
+    }
 }
 
-TEST(CKyUIDialogTest, WithoutAHostObjectNobodyIsToldAndTheRunIsTheSame)
-{
-    CKyDocumentHost* const previous = ACTIVE_DOCUMENT()->host;
-    ACTIVE_DOCUMENT()->host = nullptr;
-    SampleDialog dialog;
-    const int result = RunModally(dialog, [](SampleDialog& self) {
-        QTest::mouseClick(self.boxButton(CKyUIDialogButtonBox::Ok), Qt::LeftButton);
-    });
-    ACTIVE_DOCUMENT()->host = previous;
-    EXPECT_EQ(result, 1);
-}
-
-TEST(CKyUIDialogTest, SetUpAppliesTheThemeAndBuildsTheRootLayout)
-{
-    SampleDialog dialog;
-    EXPECT_EQ(dialog.GetLayout(), nullptr);
-    EXPECT_EQ(dialog.widget()->layout(), nullptr);
-    EXPECT_EQ(dialog.widget()->parentWidget(), nullptr);
-
-    RunModally(dialog, [](SampleDialog& self) {
-        QDialog* widget = self.widget();
-        EXPECT_FALSE(widget->styleSheet().isEmpty());
-        EXPECT_EQ(widget->styleSheet(), GetStyle()->styleSheet);
-        EXPECT_EQ(widget->sizePolicy(),
-                  QSizePolicy(QSizePolicy::MinimumExpanding, QSizePolicy::MinimumExpanding));
-
-        auto* mainLayout = qobject_cast<QVBoxLayout*>(widget->layout());
-        ASSERT_NE(mainLayout, nullptr);
-        EXPECT_EQ(mainLayout->objectName(), "mainLayout");
-        EXPECT_EQ(mainLayout->contentsMargins(), QMargins(0, 0, 0, 0));
-        ASSERT_EQ(mainLayout->count(), 1);
-
-        auto* root = qobject_cast<QGroupBox*>(mainLayout->itemAt(0)->widget());
-        ASSERT_NE(root, nullptr);
-        EXPECT_EQ(root, self.GetLayout()->getHandle());
-        EXPECT_EQ(root->objectName(), "main_layout");
-        EXPECT_EQ(self.GetLayout()->objectName(), "main_layout");
-        EXPECT_EQ(root->sizePolicy(), QSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding));
-        EXPECT_EQ(mainLayout->stretch(0), 0);
-        EXPECT_EQ(mainLayout->itemAt(0)->alignment(), Qt::Alignment());
-
-        // The client's content in order, the box last.
-        QLayout* column = root->layout();
-        ASSERT_EQ(column->count(), 3);
-        EXPECT_EQ(column->itemAt(0)->widget(), self.label->getHandle());
-        EXPECT_EQ(column->itemAt(1)->widget(), self.button->getHandle());
-        EXPECT_EQ(column->itemAt(2)->widget(), self.box->getHandle());
-
-        // Every control carries only its empty rule; the look comes from the dialog.
-        EXPECT_EQ(qobject_cast<QWidget*>(self.button->getHandle())->styleSheet(), "QPushButton { }");
-        self.accept();
-    });
-}
-
-TEST(CKyUIDialogTest, ShowingWithoutExecRunsNoSetUpAndTellsNobody)
+TEST(CKyUIDialogTest, ShowingWithoutExecRunsNoSetUpAndOnlyTheReactionsEmit)
 {
     RecordingHost host;
     SampleDialog dialog;
@@ -166,15 +106,11 @@ TEST(CKyUIDialogTest, ShowingWithoutExecRunsNoSetUpAndTellsNobody)
     EXPECT_FALSE(dialog.widget()->isVisible());
     EXPECT_EQ(dialog.widget()->result(), 2);
     EXPECT_EQ(host.calls, std::vector<bool>{false});
-}
 
-TEST(CKyUIDialogTest, OnlyTheReactionsEmitAndBlockingSilencesThem)
-{
-    SampleDialog dialog;
+    // Only the reactions emit, and blocking silences them.
     auto* impl = static_cast<CKyUIDialogImpl*>(dialog.impl());
     Recorder log;
     log.on(dialog.accepted(), "accepted").on(dialog.rejected(), "rejected");
-
     impl->OnAccepted();
     impl->OnAcceptPressed();
     impl->OnRejected();
@@ -185,32 +121,70 @@ TEST(CKyUIDialogTest, OnlyTheReactionsEmitAndBlockingSilencesThem)
     EXPECT_EQ(log.lines, (QStringList{"accepted", "accepted", "rejected", "rejected"}));
 }
 
-TEST(CKyUIDialogTest, DestructionForgetsTheQDialogAndReleasesTheContent)
+// Destruction forgets the window, which stays without an owner with the
+// root layout's box; the views' widgets go.
+TEST(CKyUIDialogTest, SetUpAppliesTheThemeBuildsTheRootLayoutAndDestructionReleasesTheContent)
 {
-    QPointer<QDialog> widget;
-    QPointer<QWidget> root;
-    QPointer<QWidget> label;
-    QPointer<QWidget> boxWidget;
+    QPointer<QDialog> window;
+    QPointer<QWidget> rootWidget, labelWidget, boxWidget;
     {
         SampleDialog dialog;
-        RunModally(dialog, [](SampleDialog& self) { self.accept(); });
-        widget = dialog.widget();
-        root = qobject_cast<QWidget*>(dialog.GetLayout()->getHandle());
-        label = qobject_cast<QWidget*>(dialog.label->getHandle());
+        EXPECT_EQ(dialog.GetLayout(), nullptr);
+        EXPECT_EQ(dialog.widget()->layout(), nullptr);
+        EXPECT_EQ(dialog.widget()->parentWidget(), nullptr);
+
+        // Without a host object nobody is told, and the run is the same.
+        CKyDocumentHost* const previous = ACTIVE_DOCUMENT()->host;
+        ACTIVE_DOCUMENT()->host = nullptr;
+        const int result = RunModally(dialog, [](SampleDialog& self) {
+            QDialog* widget = self.widget();
+            EXPECT_FALSE(widget->styleSheet().isEmpty());
+            EXPECT_EQ(widget->styleSheet(), GetStyle()->styleSheet);
+            EXPECT_EQ(widget->sizePolicy(),
+                      QSizePolicy(QSizePolicy::MinimumExpanding, QSizePolicy::MinimumExpanding));
+
+            auto* mainLayout = qobject_cast<QVBoxLayout*>(widget->layout());
+            ASSERT_NE(mainLayout, nullptr);
+            EXPECT_EQ(mainLayout->objectName(), "mainLayout");
+            EXPECT_EQ(mainLayout->contentsMargins(), QMargins(0, 0, 0, 0));
+            ASSERT_EQ(mainLayout->count(), 1);
+
+            auto* root = qobject_cast<QGroupBox*>(mainLayout->itemAt(0)->widget());
+            ASSERT_NE(root, nullptr);
+            EXPECT_EQ(root, self.GetLayout()->getHandle());
+            EXPECT_EQ(root->objectName(), "main_layout");
+            EXPECT_EQ(self.GetLayout()->objectName(), "main_layout");
+            EXPECT_EQ(root->sizePolicy(), QSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding));
+            EXPECT_EQ(mainLayout->stretch(0), 0);
+            EXPECT_EQ(mainLayout->itemAt(0)->alignment(), Qt::Alignment());
+
+            // The client's content in order, the box last.
+            QLayout* column = root->layout();
+            ASSERT_EQ(column->count(), 3);
+            EXPECT_EQ(column->itemAt(0)->widget(), self.label->getHandle());
+            EXPECT_EQ(column->itemAt(1)->widget(), self.button->getHandle());
+            EXPECT_EQ(column->itemAt(2)->widget(), self.box->getHandle());
+
+            // Every control carries only its empty rule; the look comes from the dialog.
+            EXPECT_EQ(qobject_cast<QWidget*>(self.button->getHandle())->styleSheet(), "QPushButton { }");
+            self.accept();
+        });
+        ACTIVE_DOCUMENT()->host = previous;
+        EXPECT_EQ(result, 1);
+        window = dialog.widget();
+        rootWidget = qobject_cast<QWidget*>(dialog.GetLayout()->getHandle());
+        labelWidget = qobject_cast<QWidget*>(dialog.label->getHandle());
         boxWidget = qobject_cast<QWidget*>(dialog.box->getHandle());
         EXPECT_EQ(dialog.box->parent(), &dialog);
         EXPECT_EQ(dialog.label->parent(), dialog.GetLayout());
     }
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-
-    // The window and the root layout's box stay, without an owner; the views'
-    // widgets are gone.
-    ASSERT_FALSE(widget.isNull());
-    EXPECT_FALSE(widget->isVisible());
-    EXPECT_FALSE(root.isNull());
-    EXPECT_TRUE(label.isNull());
+    ASSERT_FALSE(window.isNull());
+    EXPECT_FALSE(window->isVisible());
+    EXPECT_FALSE(rootWidget.isNull());
+    EXPECT_TRUE(labelWidget.isNull());
     EXPECT_TRUE(boxWidget.isNull());
-    delete widget.data();
+    delete window.data();
 }
 
 // The window outlives the dialog; children going with the dialog must not

@@ -1,5 +1,6 @@
 #include "UI/CKyUILabel.h"
 #include "UI/Impl/CKyUILabelImpl.h"
+#include "support/TestViews.h"
 
 #include <gtest/gtest.h>
 
@@ -7,13 +8,10 @@
 #include <QtGui/QPixmap>
 #include <QtWidgets/QLabel>
 
+#include <utility>
+
 namespace
 {
-QLabel* LabelOf(const CKyUILabel& label)
-{
-    return qobject_cast<QLabel*>(label.getHandle());
-}
-
 QIcon SquareIcon(int side)
 {
     QPixmap pixmap(side, side);
@@ -25,7 +23,7 @@ QIcon SquareIcon(int side)
 TEST(CKyUILabelTest, CreatesAPlainLabelWithAnEmptyRuleOfItsClass)
 {
     CKyUILabel label;
-    QLabel* widget = LabelOf(label);
+    QLabel* widget = HandleAs<QLabel>(label);
     ASSERT_NE(widget, nullptr);
     EXPECT_STREQ(widget->metaObject()->className(), "QLabel");
     EXPECT_EQ(widget->parentWidget(), nullptr);
@@ -34,9 +32,17 @@ TEST(CKyUILabelTest, CreatesAPlainLabelWithAnEmptyRuleOfItsClass)
     EXPECT_TRUE(widget->wordWrap());
     label.setText("Length");
     EXPECT_EQ(widget->text(), "Length");
+
+    // Icons are shown at most twenty-five pixels square.
+    const std::pair<int, int> sides[] = {{64, 25}, {16, 16}};
+    for (const auto& side : sides) {
+        label.setIcon(SquareIcon(side.first));
+        ASSERT_NE(widget->pixmap(), nullptr);
+        EXPECT_EQ(widget->pixmap()->size(), QSize(side.second, side.second));
+    }
 }
 
-TEST(CKyUILabelTest, ClearEmptiesTheTextAndKeepsTheStoredIcon)
+TEST(CKyUILabelTest, ClearEmptiesTheTextAndKeepsTheStoredIconValuesAreRecordedWithoutALabel)
 {
     CKyUILabel label;
     label.setText("Name");
@@ -45,7 +51,7 @@ TEST(CKyUILabelTest, ClearEmptiesTheTextAndKeepsTheStoredIcon)
 
     label.clear();
     EXPECT_TRUE(label.text().isEmpty());
-    EXPECT_TRUE(LabelOf(label)->text().isEmpty());
+    EXPECT_TRUE(HandleAs<QLabel>(label)->text().isEmpty());
     auto* impl = static_cast<CKyUILabelImpl*>(label.impl());
     EXPECT_EQ(impl->Icon().cacheKey(), icon.cacheKey());
 
@@ -55,26 +61,10 @@ TEST(CKyUILabelTest, ClearEmptiesTheTextAndKeepsTheStoredIcon)
     impl->clear();
     EXPECT_TRUE(impl->Icon().isNull());
     EXPECT_TRUE(label.text().isEmpty());
-    EXPECT_TRUE(LabelOf(label)->pixmap() == nullptr || LabelOf(label)->pixmap()->isNull());
-}
+    QLabel* widget = HandleAs<QLabel>(label);
+    EXPECT_TRUE(widget->pixmap() == nullptr || widget->pixmap()->isNull());
 
-TEST(CKyUILabelTest, IconsAreShownAtMostTwentyFivePixelsSquare)
-{
-    CKyUILabel large;
-    large.setIcon(SquareIcon(64));
-    ASSERT_NE(LabelOf(large)->pixmap(), nullptr);
-    EXPECT_EQ(LabelOf(large)->pixmap()->size(), QSize(25, 25));
-
-    CKyUILabel small;
-    small.setIcon(SquareIcon(16));
-    ASSERT_NE(LabelOf(small)->pixmap(), nullptr);
-    EXPECT_EQ(LabelOf(small)->pixmap()->size(), QSize(16, 16));
-}
-
-TEST(CKyUILabelTest, WithoutALabelHandleValuesAreStillRecorded)
-{
-    CKyUILabel label;
-    QLabel* widget = LabelOf(label);
+    // Without a label behind it, values are still recorded.
     QObject stranger;
     label.setHandle(&stranger);
     label.setText("kept");

@@ -2,45 +2,20 @@
 #include "UI/Impl/CKyUIPushButtonImpl.h"
 #include "UI/Impl/qt/CKyUIPushButtonFrontend.h"
 #include "support/Recorder.h"
+#include "support/TestViews.h"
 
 #include <gtest/gtest.h>
 
 #include <QtCore/QMetaMethod>
 #include <QtCore/QPointer>
-#include <QtGui/QPixmap>
 #include <QtTest/QTest>
 
 #include <vector>
 
-namespace
-{
-CKyUIPushButtonFrontend* FrontendOf(const CKyUIPushButton& button)
-{
-    return qobject_cast<CKyUIPushButtonFrontend*>(button.getHandle());
-}
-
-// A shown button whose clicked() arguments are recorded.
-struct ClickableButton
-{
-    ClickableButton()
-    {
-        button.setText("Apply");
-        clicks.on(button.clicked(), "clicked");
-        widget()->show();
-        EXPECT_TRUE(QTest::qWaitForWindowExposed(widget()));
-    }
-    CKyUIPushButtonFrontend* widget() const { return FrontendOf(button); }
-    void click() { QTest::mouseClick(widget(), Qt::LeftButton); }
-
-    CKyUIPushButton button;
-    Recorder clicks;
-};
-} // namespace
-
-TEST(CKyUIPushButtonTest, CreatesItsFrontendAsAnAutoDefaultButton)
+TEST(CKyUIPushButtonTest, CreatesItsFrontendAsAnAutoDefaultButtonAndKeepsItsText)
 {
     CKyUIPushButton button;
-    CKyUIPushButtonFrontend* widget = FrontendOf(button);
+    CKyUIPushButtonFrontend* widget = HandleAs<CKyUIPushButtonFrontend>(button);
     ASSERT_NE(widget, nullptr);
     EXPECT_STREQ(widget->metaObject()->className(), "CKyUIPushButtonFrontend");
     EXPECT_EQ(widget->parentWidget(), nullptr);
@@ -53,6 +28,16 @@ TEST(CKyUIPushButtonTest, CreatesItsFrontendAsAnAutoDefaultButton)
         widget->qt_metacast("CKyUIFrontendBase<CKyUIPushButtonImpl>"));
     ASSERT_NE(base, nullptr);
     EXPECT_EQ(base->impl, button.impl());
+
+    // The text is answered from the record; resource icons change nothing.
+    button.setText("Open");
+    widget->setText("changed elsewhere");
+    button.setResourceIcon(":/commonui/resources/icons/chevron_down.png");
+    EXPECT_EQ(button.text(), "Open");
+    EXPECT_EQ(widget->text(), "changed elsewhere");
+    EXPECT_TRUE(widget->icon().isNull());
+    EXPECT_TRUE(static_cast<CKyUIPushButtonImpl*>(button.impl())->Icon().isNull());
+    EXPECT_EQ(widget->styleSheet(), "QPushButton { }");
 }
 
 TEST(CKyUIPushButtonTest, FrontendDeclaresThreeSlotsAndNoSignals)
@@ -69,53 +54,34 @@ TEST(CKyUIPushButtonTest, FrontendDeclaresThreeSlotsAndNoSignals)
     EXPECT_EQ(meta.propertyCount(), meta.propertyOffset());
 }
 
+// clicked(true) on release only, also when the click unchecks a checkable
+// button; blocking silences it but keeps the slot.
 TEST(CKyUIPushButtonTest, AClickEmitsTrueOnReleaseAndOnlyThen)
 {
-    ClickableButton subject;
-    QTest::mousePress(subject.widget(), Qt::LeftButton);
-    EXPECT_TRUE(subject.clicks.lines.isEmpty());
-    QTest::mouseRelease(subject.widget(), Qt::LeftButton);
-    EXPECT_EQ(subject.clicks.lines, QStringList{"clicked:true"});
-
-    QTest::keyClick(subject.widget(), Qt::Key_Space);
-    EXPECT_EQ(subject.clicks.lines, QStringList({"clicked:true", "clicked:true"}));
-}
-
-TEST(CKyUIPushButtonTest, ACheckableButtonReportsTrueAlsoWhenAClickUnchecksIt)
-{
-    ClickableButton subject;
-    subject.button.setCheckable(true);
-    subject.click();
-    EXPECT_TRUE(subject.widget()->isChecked());
-    subject.click();
-    EXPECT_FALSE(subject.widget()->isChecked());
-    EXPECT_EQ(subject.clicks.lines, QStringList({"clicked:true", "clicked:true"}));
-}
-
-TEST(CKyUIPushButtonTest, BlockedSignalsSilenceClicksButKeepTheSlot)
-{
-    ClickableButton subject;
-    subject.button.blockSignals(true);
-    subject.click();
-    EXPECT_TRUE(subject.clicks.lines.isEmpty());
-    subject.button.blockSignals(false);
-    subject.click();
-    EXPECT_EQ(subject.clicks.lines, QStringList{"clicked:true"});
-}
-
-TEST(CKyUIPushButtonTest, TextIsAnsweredFromTheRecordAndResourceIconsChangeNothing)
-{
     CKyUIPushButton button;
-    button.setText("Open");
-    FrontendOf(button)->setText("changed elsewhere");
-    EXPECT_EQ(button.text(), "Open");
+    button.setText("Apply");
+    Recorder clicks;
+    clicks.on(button.clicked(), "clicked");
+    CKyUIPushButtonFrontend* widget = HandleAs<CKyUIPushButtonFrontend>(button);
+    widget->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(widget));
+    QTest::mousePress(widget, Qt::LeftButton);
+    EXPECT_TRUE(clicks.lines.isEmpty());
+    QTest::mouseRelease(widget, Qt::LeftButton);
+    EXPECT_EQ(clicks.lines, QStringList{"clicked:true"});
+    QTest::keyClick(widget, Qt::Key_Space);
+    EXPECT_EQ(clicks.take(), QStringList({"clicked:true", "clicked:true"}));
 
-    button.setResourceIcon(":/commonui/resources/icons/chevron_down.png");
-    EXPECT_EQ(button.text(), "Open");
-    EXPECT_EQ(FrontendOf(button)->text(), "changed elsewhere");
-    EXPECT_TRUE(FrontendOf(button)->icon().isNull());
-    EXPECT_TRUE(static_cast<CKyUIPushButtonImpl*>(button.impl())->Icon().isNull());
-    EXPECT_EQ(FrontendOf(button)->styleSheet(), "QPushButton { }");
+    button.blockSignals(true);
+    QTest::mouseClick(widget, Qt::LeftButton);
+    button.blockSignals(false);
+
+    button.setCheckable(true);
+    QTest::mouseClick(widget, Qt::LeftButton);
+    EXPECT_TRUE(widget->isChecked());
+    QTest::mouseClick(widget, Qt::LeftButton);
+    EXPECT_FALSE(widget->isChecked());
+    EXPECT_EQ(clicks.lines, QStringList({"clicked:true", "clicked:true"}));
 }
 
 TEST(CKyUIPushButtonTest, AClickOnTheWidgetOutlivingTheButtonReachesNobody)
@@ -123,7 +89,7 @@ TEST(CKyUIPushButtonTest, AClickOnTheWidgetOutlivingTheButtonReachesNobody)
     auto* button = new CKyUIPushButton;
     Recorder clicks;
     clicks.on(button->clicked(), "clicked");
-    QPointer<CKyUIPushButtonFrontend> widget(FrontendOf(*button));
+    QPointer<CKyUIPushButtonFrontend> widget(HandleAs<CKyUIPushButtonFrontend>(*button));
     widget->show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(widget.data()));
 

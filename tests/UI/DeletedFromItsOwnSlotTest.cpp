@@ -10,13 +10,9 @@
 
 #include <QtCore/QPointer>
 #include <QtTest/QTest>
-#include <QtWidgets/QAbstractSlider>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QWidget>
-
-#include <functional>
-#include <memory>
 
 // A plug-in may delete a control from inside a slot of one of the control's
 // own signals. Where one operation reports through several signals, it must
@@ -27,41 +23,45 @@ namespace
 {
 
 // Deletes the control from the first slot of the signal it is attached to,
-// and records what else was reported after that.
-template <class Control> Control* NewControl()
-{
-    return new Control;
-}
-template <> CKyUITextEdit* NewControl<CKyUITextEdit>()
-{
-    return new CKyUITextEdit(CKyUITextEdit::Medium);
-}
-
+// records what else was reported after that, and at its end checks that
+// nothing was and that the widget went with the next deferred deletions.
 template <class Control> struct DeletedInSlot
 {
-    Control* control = NewControl<Control>();
+    explicit DeletedInSlot(Control* made = new Control)
+        : control(made)
+    {}
+
+    Control* control;
     QPointer<QWidget> widget{qobject_cast<QWidget*>(control->getHandle())};
     bool deleted = false;
     Recorder afterwards;
 
-    // The slot's own captures go with the control: it copies what it needs.
-    std::function<void()> DeleteNow()
+    // Slots for a signal of any arguments. The slot's own captures go with
+    // the control: it copies what it needs.
+    auto DeleteNow()
     {
-        return [this] {
+        return [this](const auto&...) {
             DeletedInSlot* const self = this;
             delete self->control;
             self->control = nullptr;
             self->deleted = true;
         };
     }
-    std::function<void()> Count()
+    auto Count()
     {
-        return [this] {
+        return [this](const auto&...) {
             if (deleted)
                 afterwards.add("reported");
         };
     }
-    void Finish()
+    // For what the toolkit delivers to shown widgets only.
+    bool Show()
+    {
+        widget->show();
+        return QTest::qWaitForWindowExposed(widget.data());
+    }
+    // Checked when the block ends.
+    ~DeletedInSlot()
     {
         EXPECT_TRUE(deleted);
         EXPECT_TRUE(afterwards.lines.isEmpty());
@@ -70,41 +70,36 @@ template <class Control> struct DeletedInSlot
     }
 };
 
+CKyUITextEdit* NewEdit()
+{
+    return new CKyUITextEdit(CKyUITextEdit::Medium);
+}
+
 } // namespace
 
 TEST(DeletedFromItsOwnSlot, TextEditDeletedWhenItsTextChanges)
 {
     // Set by the program: textChanged, textEdited, textChanged.
     {
-        DeletedInSlot<CKyUITextEdit> edit;
-        const auto deleteNow = edit.DeleteNow();
-        const auto count = edit.Count();
-        edit.control->textChanged().connect([deleteNow](QString) { deleteNow(); });
-        edit.control->textEdited().connect([count](QString) { count(); });
+        DeletedInSlot<CKyUITextEdit> edit(NewEdit());
+        edit.control->textChanged().connect(edit.DeleteNow());
+        edit.control->textEdited().connect(edit.Count());
         edit.control->setText("x");
-        edit.Finish();
     }
     // Typed: textChanged, textEdited.
     {
-        DeletedInSlot<CKyUITextEdit> edit;
-        const auto deleteNow = edit.DeleteNow();
-        const auto count = edit.Count();
-        edit.control->textChanged().connect([deleteNow](QString) { deleteNow(); });
-        edit.control->textEdited().connect([count](QString) { count(); });
-        edit.widget->show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(edit.widget.data()));
+        DeletedInSlot<CKyUITextEdit> edit(NewEdit());
+        edit.control->textChanged().connect(edit.DeleteNow());
+        edit.control->textEdited().connect(edit.Count());
+        ASSERT_TRUE(edit.Show());
         QTest::keyClicks(edit.widget.data(), "ab");
-        edit.Finish();
     }
     // Return: the toolkit's key handling goes on after the slot.
     {
-        DeletedInSlot<CKyUITextEdit> edit;
-        const auto deleteNow = edit.DeleteNow();
-        edit.control->returnPressed().connect(deleteNow);
-        edit.widget->show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(edit.widget.data()));
+        DeletedInSlot<CKyUITextEdit> edit(NewEdit());
+        edit.control->returnPressed().connect(edit.DeleteNow());
+        ASSERT_TRUE(edit.Show());
         QTest::keyClick(edit.widget.data(), Qt::Key_Return);
-        edit.Finish();
     }
 }
 
@@ -117,16 +112,13 @@ TEST(DeletedFromItsOwnSlot, TextViewDeletedWhenItsContentOrFocusChanges)
         view.control->textChanged().connect(view.DeleteNow());
         view.control->textChanged().connect(view.Count());
         view.control->setText("replaced");
-        view.Finish();
     }
     {
         DeletedInSlot<CKyUITextView> view;
         view.control->setAdjustHeightToContent(true);
         view.control->textChanged().connect(view.DeleteNow());
-        view.widget->show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(view.widget.data()));
+        ASSERT_TRUE(view.Show());
         QTest::keyClicks(view.widget.data(), "typed");
-        view.Finish();
     }
     {
         QLineEdit neighbour;
@@ -134,13 +126,11 @@ TEST(DeletedFromItsOwnSlot, TextViewDeletedWhenItsContentOrFocusChanges)
         DeletedInSlot<CKyUITextView> view;
         view.control->focusInEventSignal().connect(view.DeleteNow());
         view.control->focusOutEventSignal().connect(view.Count());
-        view.widget->show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(view.widget.data()));
+        ASSERT_TRUE(view.Show());
         QApplication::setActiveWindow(view.widget.data());
         view.widget->setFocus(Qt::OtherFocusReason);
         QApplication::setActiveWindow(&neighbour);
         neighbour.setFocus(Qt::OtherFocusReason);
-        view.Finish();
     }
 }
 
@@ -149,12 +139,9 @@ TEST(DeletedFromItsOwnSlot, ChoicesDeletedWhenTheyChange)
     // The check box reports stateChanged, then toggled.
     {
         DeletedInSlot<CKyUICheckBox> check;
-        const auto deleteNow = check.DeleteNow();
-        const auto count = check.Count();
-        check.control->stateChanged().connect([deleteNow](int) { deleteNow(); });
-        check.control->toggled().connect([count](bool) { count(); });
+        check.control->stateChanged().connect(check.DeleteNow());
+        check.control->toggled().connect(check.Count());
         check.control->setChecked(true);
-        check.Finish();
     }
     // The combo box reports currentIndexChanged, then currentStringChanged,
     // and then tells its widget.
@@ -162,30 +149,21 @@ TEST(DeletedFromItsOwnSlot, ChoicesDeletedWhenTheyChange)
         DeletedInSlot<CKyUIComboBox> combo;
         combo.control->addItem(QIcon(), "a", 1);
         combo.control->addItem(QIcon(), "b", 2);
-        const auto deleteNow = combo.DeleteNow();
-        const auto count = combo.Count();
-        combo.control->currentIndexChanged().connect([deleteNow](int) { deleteNow(); });
-        combo.control->currentStringChanged().connect([count](const QString&) { count(); });
+        combo.control->currentIndexChanged().connect(combo.DeleteNow());
+        combo.control->currentStringChanged().connect(combo.Count());
         combo.control->setCurrentIndex(1);
-        combo.Finish();
     }
     // Single reports, from the toolkit's own handling of a click or a key.
     {
         DeletedInSlot<CKyUIPushButton> button;
-        const auto deleteNow = button.DeleteNow();
-        button.control->clicked().connect([deleteNow](bool) { deleteNow(); });
-        button.widget->show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(button.widget.data()));
+        button.control->clicked().connect(button.DeleteNow());
+        ASSERT_TRUE(button.Show());
         QTest::mouseClick(button.widget.data(), Qt::LeftButton);
-        button.Finish();
     }
     {
         DeletedInSlot<CKyUISlider> slider;
-        const auto deleteNow = slider.DeleteNow();
-        slider.control->valueChanged().connect([deleteNow](int) { deleteNow(); });
-        slider.widget->show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(slider.widget.data()));
+        slider.control->valueChanged().connect(slider.DeleteNow());
+        ASSERT_TRUE(slider.Show());
         QTest::keyClick(slider.widget.data(), Qt::Key_PageUp);
-        slider.Finish();
     }
 }

@@ -16,3 +16,10 @@ public:
         setHandle(handle);
     }
 };
+
+// The toolkit object behind a view, action or menu, as the class the test
+// expects; null when it is not one.
+template <class Toolkit> Toolkit* HandleAs(const CKyUIObject& object)
+{
+    return qobject_cast<Toolkit*>(object.getHandle());
+}
