@@ -75,6 +75,7 @@ TEST_F(NetworkAccessManager, GetFinishesWithStatusBodyAndRawHeaderBytes)
         ASSERT_TRUE(toolkit->attribute(attribute.second).isValid()) << attribute.second;
         EXPECT_EQ(reply->attribute(attribute.first), toolkit->attribute(attribute.second)) << attribute.first;
     }
+    EXPECT_EQ(reply->attribute(CKyNANetworkRequest::SpdyWasUsedAttribute), QVariant(false));
 
     // Known headers come back as the bytes received, never as typed values.
     const QVariant length = reply->header(CKyNANetworkRequest::ContentLengthHeader);

@@ -21,8 +21,7 @@ QNetworkReply* toolkitReply(CKyUIObject* owner)
 
 // The public attribute codes are Qt 5's. Qt 6 dropped the SPDY and
 // follow-redirects attributes and renumbered the ones after them, so those
-// codes are translated; a dropped one has no toolkit code (-1) and reads as
-// unset.
+// codes are translated; a dropped one has no toolkit code (-1).
 int ToolkitAttribute(int code)
 {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
@@ -128,6 +127,13 @@ QString CKyNANetworkReplyImpl::ErrorStringImpl() const
 QVariant CKyNANetworkReplyImpl::AttributeImpl(CKyNANetworkRequest::Attribute code) const
 {
     QNetworkReply* reply = toolkitReply(owner());
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    // Qt 5 says SPDY was not used wherever it says whether HTTP/2 was; Qt 6
+    // has no SPDY left to ask about.
+    if (code == CKyNANetworkRequest::SpdyWasUsedAttribute)
+        return reply && reply->attribute(QNetworkRequest::Http2WasUsedAttribute).isValid() ? QVariant(false)
+                                                                                           : QVariant();
+#endif
     const int toolkitCode = ToolkitAttribute(code);
     return reply && toolkitCode >= 0 ? reply->attribute(QNetworkRequest::Attribute(toolkitCode)) : QVariant();
 }
