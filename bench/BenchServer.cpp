@@ -165,7 +165,7 @@ bool Upgrade(QTcpSocket* socket, Stream& stream)
     const int size = std::max(1, query.queryItemValue(QStringLiteral("size")).toInt());
     const QByteArray frame = TextFrame(size);
     stream.frameSize = frame.size();
-    stream.framesPerChunk = std::max(1, 65536 / frame.size());
+    stream.framesPerChunk = std::max(1, 65536 / int(frame.size()));
     stream.chunk = frame.repeated(stream.framesPerChunk);
     stream.remaining = std::max(0, query.queryItemValue(QStringLiteral("count")).toInt());
     stream.upgraded = true;

@@ -182,7 +182,7 @@ void CKyUIComboBoxImpl::OnEditingFinished()
 
 int CKyUIComboBoxImpl::InsertPosition(int index) const
 {
-    return std::max(0, std::min(index, m_items.size()));
+    return std::max(0, std::min(index, int(m_items.size())));
 }
 
 void CKyUIComboBoxImpl::AddItemImpl(const QString&) {}

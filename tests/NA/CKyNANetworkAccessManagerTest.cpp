@@ -63,6 +63,19 @@ TEST_F(NetworkAccessManager, GetFinishesWithStatusBodyAndRawHeaderBytes)
     EXPECT_EQ(errorCode(*reply), CKyNANetworkReply::NoError);
     EXPECT_EQ(reply->attribute(CKyNANetworkRequest::HttpStatusCodeAttribute).toInt(), 200);
     EXPECT_EQ(reply->readAll(), QByteArray("hello"));
+    // Each attribute code reads the toolkit's attribute of that name, also
+    // where Qt 6 numbers it differently.
+    auto* toolkit = qobject_cast<QNetworkReply*>(reply->getHandle());
+    ASSERT_TRUE(toolkit);
+    const std::pair<CKyNANetworkRequest::Attribute, QNetworkRequest::Attribute> attributes[] = {
+        {CKyNANetworkRequest::HttpReasonPhraseAttribute, QNetworkRequest::HttpReasonPhraseAttribute},
+        {CKyNANetworkRequest::HTTP2WasUsedAttribute, QNetworkRequest::Http2WasUsedAttribute},
+    };
+    for (const auto& attribute : attributes) {
+        ASSERT_TRUE(toolkit->attribute(attribute.second).isValid()) << attribute.second;
+        EXPECT_EQ(reply->attribute(attribute.first), toolkit->attribute(attribute.second)) << attribute.first;
+    }
+    EXPECT_EQ(reply->attribute(CKyNANetworkRequest::SpdyWasUsedAttribute), QVariant(false));
 
     // Known headers come back as the bytes received, never as typed values.
     const QVariant length = reply->header(CKyNANetworkRequest::ContentLengthHeader);
@@ -74,6 +87,31 @@ TEST_F(NetworkAccessManager, GetFinishesWithStatusBodyAndRawHeaderBytes)
     ASSERT_EQ(server.requests().size(), 1);
     EXPECT_EQ(server.requests()[0].method, QByteArray("GET"));
     EXPECT_EQ(server.requests()[0].header("X-Client"), QByteArray("plug-in"));
+}
+
+// A redirect is the reply's answer; nothing follows it on any Qt.
+TEST_F(NetworkAccessManager, RedirectIsReportedNotFollowed)
+{
+    Route moved;
+    moved.status = 302;
+    moved.reason = "Found";
+    moved.headers = {{"Location", server.url(QStringLiteral("/target")).toEncoded()}};
+    moved.body = "moved";
+    server.setRoute("/moved", moved);
+    Route target;
+    target.body = "target";
+    server.setRoute("/target", target);
+
+    std::unique_ptr<CKyNANetworkReply> reply(
+        manager.get(CKyNANetworkRequest(server.url(QStringLiteral("/moved")))));
+    ASSERT_TRUE(reply);
+    Recorder recorder;
+    RecordReply(recorder, reply.get());
+    ASSERT_TRUE(waitFinished(recorder));
+    EXPECT_EQ(Outcome(recorder), QStringList{QStringLiteral("finished")});
+    EXPECT_EQ(reply->attribute(CKyNANetworkRequest::HttpStatusCodeAttribute).toInt(), 302);
+    EXPECT_EQ(reply->readAll(), QByteArray("moved"));
+    EXPECT_EQ(server.requests().size(), 1);
 }
 
 TEST_F(NetworkAccessManager, PostPutAndDeleteReachTheServerAsSent)

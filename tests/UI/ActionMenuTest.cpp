@@ -10,7 +10,6 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QPointer>
 #include <QtTest/QTest>
-#include <QtWidgets/QAction>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QPushButton>
 

@@ -1,5 +1,6 @@
 #include "UI/CKyUILabel.h"
 #include "UI/CKyUIPushButton.h"
+#include "UI/CKyUITextView.h"
 #include "support/QtPrinters.h"
 #include "support/TestViews.h"
 
@@ -288,4 +289,17 @@ TEST(StyleSheetRewriting, AnySheetAndValueKeepsEachRulesDeclarationLast)
         }
     }
     qInstallMessageHandler(previous);
+}
+
+// Rewriting the sheet later, and the polish that follows, keep that colour.
+TEST(StyleSheetRewriting, TextColourOutlivesLaterRewrites)
+{
+    CKyUITextView view;
+    QPalette palette = PaletteWith(QPalette::Text, QColor(0x44, 0x55, 0x66));
+    palette.setColor(QPalette::Base, Qt::black);
+    view.setPalette(palette);
+    view.setBorderWidth(1);
+    auto* widget = qobject_cast<QWidget*>(view.getHandle());
+    widget->ensurePolished();
+    EXPECT_EQ(widget->palette().color(QPalette::Active, QPalette::Text), QColor(0x44, 0x55, 0x66));
 }

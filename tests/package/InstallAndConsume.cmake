@@ -5,7 +5,10 @@
 # cmake -DBUILD_DIR=<library build> -DSOURCE_DIR=<library source>
 #       -DWORK_DIR=<scratch> [-DGENERATOR=Ninja] [-DLAUNCHER=ccache]
 #       [-DCXX=c++ -DPKG_CONFIG=pkg-config]
+#       [-DPACKAGE=CommonUI -DPC_NAME=commonui]
 #       -P InstallAndConsume.cmake
+# PACKAGE and PC_NAME name the build's package (CommonUIQt6 and commonui-qt6
+# for the Qt 6 build).
 
 foreach(variable BUILD_DIR SOURCE_DIR WORK_DIR)
     if(NOT ${variable})
@@ -13,6 +16,12 @@ foreach(variable BUILD_DIR SOURCE_DIR WORK_DIR)
     endif()
 endforeach()
 
+if(NOT PACKAGE)
+    set(PACKAGE CommonUI)
+endif()
+if(NOT PC_NAME)
+    set(PC_NAME commonui)
+endif()
 set(prefix ${WORK_DIR}/prefix)
 set(client_build ${WORK_DIR}/consumer-build)
 file(REMOVE_RECURSE ${WORK_DIR})
@@ -31,21 +40,31 @@ step("cmake --install into ${prefix}"
     ${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${prefix})
 
 foreach(installed
-        include/CommonUI/UI/CKyUIDialog.h
-        include/CommonUI/NA/CKyNANetworkAccessManager.h
-        include/CommonUI/UI/slimsig/detail/signal_base
-        include/CommonUI/CommonUI.h
-        include/CommonUI/commonui_export.h
-        include/CommonUI/KyHostKernel.h)
+        include/${PACKAGE}/UI/CKyUIDialog.h
+        include/${PACKAGE}/NA/CKyNANetworkAccessManager.h
+        include/${PACKAGE}/UI/slimsig/detail/signal_base
+        include/${PACKAGE}/CommonUI.h
+        include/${PACKAGE}/commonui_export.h
+        include/${PACKAGE}/KyHostKernel.h)
     if(NOT EXISTS ${prefix}/${installed})
         message(FATAL_ERROR "install test: ${installed} was not installed")
     endif()
 endforeach()
-file(GLOB_RECURSE config_files ${prefix}/*/CommonUIConfig.cmake ${prefix}/*/CommonUIConfigVersion.cmake
-    ${prefix}/*/commonui.pc)
+file(GLOB_RECURSE config_files ${prefix}/*/${PACKAGE}Config.cmake ${prefix}/*/${PACKAGE}ConfigVersion.cmake
+    ${prefix}/*/${PC_NAME}.pc)
 list(LENGTH config_files config_count)
 if(NOT config_count EQUAL 3)
     message(FATAL_ERROR "install test: package files missing; found: ${config_files}")
+endif()
+# A build with its own package name installs side by side with the Qt 5 one:
+# none of its files may take a path that the other build installs too.
+if(NOT PACKAGE STREQUAL "CommonUI")
+    file(GLOB_RECURSE installed_files LIST_DIRECTORIES false RELATIVE ${prefix} ${prefix}/*)
+    foreach(file ${installed_files})
+        if(NOT file MATCHES "(${PACKAGE}|${PC_NAME}|KyHostKernelQt[0-9])")
+            message(FATAL_ERROR "install test: ${file} would collide with the Qt 5 build's")
+        endif()
+    endforeach()
 endif()
 
 set(generator_args)
@@ -56,9 +75,9 @@ set(launcher_args)
 if(LAUNCHER)
     set(launcher_args -DCMAKE_CXX_COMPILER_LAUNCHER=${LAUNCHER})
 endif()
-step("configure examples/consumer with find_package(CommonUI)"
+step("configure examples/consumer with find_package(${PACKAGE})"
     ${CMAKE_COMMAND} -S ${SOURCE_DIR}/examples/consumer -B ${client_build} ${generator_args}
-    -DCMAKE_BUILD_TYPE=Release -DCMAKE_PREFIX_PATH=${prefix} ${launcher_args})
+    -DCMAKE_BUILD_TYPE=Release -DCMAKE_PREFIX_PATH=${prefix} -DCOMMONUI_PACKAGE=${PACKAGE} ${launcher_args})
 step("build examples/consumer" ${CMAKE_COMMAND} --build ${client_build})
 step("run the consumer offscreen"
     ${CMAKE_COMMAND} -E env --unset=DISPLAY --unset=WAYLAND_DISPLAY QT_QPA_PLATFORM=offscreen
@@ -74,13 +93,17 @@ foreach(library ${resolved})
         message(FATAL_ERROR "install test: the consumer loads ${library}, outside ${prefix}")
     endif()
 endforeach()
+# ... and the library of this build's Qt, not the other one's.
+if(NOT resolved MATCHES "/lib${PACKAGE}\\.so")
+    message(FATAL_ERROR "install test: the consumer does not load lib${PACKAGE}; it loads ${resolved}")
+endif()
 
 if(PKG_CONFIG AND CXX)
-    file(GLOB_RECURSE pc_file ${prefix}/*/commonui.pc)
+    file(GLOB_RECURSE pc_file ${prefix}/*/${PC_NAME}.pc)
     get_filename_component(pc_dir ${pc_file} DIRECTORY)
     get_filename_component(lib_dir ${pc_dir} DIRECTORY)
     set(ENV{PKG_CONFIG_PATH} "${pc_dir}")
-    step("pkg-config --cflags --libs commonui" ${PKG_CONFIG} --cflags --libs commonui)
+    step("pkg-config --cflags --libs ${PC_NAME}" ${PKG_CONFIG} --cflags --libs ${PC_NAME})
     string(STRIP "${step_output}" flags)
     separate_arguments(flags UNIX_COMMAND "${flags}")
     step("compile examples/consumer with the pkg-config flags"

@@ -49,7 +49,13 @@ CKyNANetworkReply* StartTransfer(const CKyUIObject* owner, const CKyNANetworkReq
 
 void CKyNANetworkAccessManagerImpl::CreateNetworkAccessManagerImpl()
 {
-    owner()->setHandle(new QNetworkAccessManager(nullptr));
+    auto* manager = new QNetworkAccessManager(nullptr);
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    // Qt 6 follows redirects unless told otherwise; a reply reports the
+    // redirect response itself, as on Qt 5. A request's own policy still wins.
+    manager->setRedirectPolicy(QNetworkRequest::ManualRedirectPolicy);
+#endif
+    owner()->setHandle(manager);
 }
 
 void CKyNANetworkAccessManagerImpl::DestroyNetworkAccessManagerImpl()

@@ -19,6 +19,42 @@ QNetworkReply* toolkitReply(CKyUIObject* owner)
     return qobject_cast<QNetworkReply*>(owner->getHandle());
 }
 
+// The public attribute codes are Qt 5's. Qt 6 dropped the SPDY and
+// follow-redirects attributes and renumbered the ones after them, so those
+// codes are translated; a dropped one has no toolkit code (-1).
+int ToolkitAttribute(int code)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    switch (code) {
+    case CKyNANetworkRequest::SpdyAllowedAttribute:
+    case CKyNANetworkRequest::SpdyWasUsedAttribute:
+    case CKyNANetworkRequest::FollowRedirectsAttribute:
+        return -1;
+    case CKyNANetworkRequest::EmitAllUploadProgressSignalsAttribute:
+        return QNetworkRequest::EmitAllUploadProgressSignalsAttribute;
+    case CKyNANetworkRequest::HTTP2AllowedAttribute:
+        return QNetworkRequest::Http2AllowedAttribute;
+    case CKyNANetworkRequest::HTTP2WasUsedAttribute:
+        return QNetworkRequest::Http2WasUsedAttribute;
+    case CKyNANetworkRequest::OriginalContentLengthAttribute:
+        return QNetworkRequest::OriginalContentLengthAttribute;
+    case CKyNANetworkRequest::RedirectPolicyAttribute:
+        return QNetworkRequest::RedirectPolicyAttribute;
+    // Qt 5.15's attributes after RedirectPolicyAttribute.
+    case CKyNANetworkRequest::RedirectPolicyAttribute + 1:
+        return QNetworkRequest::Http2DirectAttribute;
+    case CKyNANetworkRequest::RedirectPolicyAttribute + 2:
+        return QNetworkRequest::ResourceTypeAttribute;
+    case CKyNANetworkRequest::RedirectPolicyAttribute + 3:
+        return QNetworkRequest::AutoDeleteReplyOnFinishAttribute;
+    default:
+        return code;
+    }
+#else
+    return code;
+#endif
+}
+
 } // namespace
 
 void CKyNANetworkReplyImpl::ConnectNetworkReplySignalsImpl()
@@ -96,7 +132,15 @@ QString CKyNANetworkReplyImpl::ErrorStringImpl() const
 QVariant CKyNANetworkReplyImpl::AttributeImpl(CKyNANetworkRequest::Attribute code) const
 {
     QNetworkReply* reply = toolkitReply(owner());
-    return reply ? reply->attribute(QNetworkRequest::Attribute(code)) : QVariant();
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    // Qt 5 says SPDY was not used wherever it says whether HTTP/2 was; Qt 6
+    // has no SPDY left to ask about.
+    if (code == CKyNANetworkRequest::SpdyWasUsedAttribute)
+        return reply && reply->attribute(QNetworkRequest::Http2WasUsedAttribute).isValid() ? QVariant(false)
+                                                                                           : QVariant();
+#endif
+    const int toolkitCode = ToolkitAttribute(code);
+    return reply && toolkitCode >= 0 ? reply->attribute(QNetworkRequest::Attribute(toolkitCode)) : QVariant();
 }
 
 void CKyNANetworkReplyImpl::AbortImpl()

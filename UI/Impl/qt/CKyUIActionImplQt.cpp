@@ -2,7 +2,12 @@
 
 #include "UI/CKyUIObject.h"
 
+#include <QtCore/QtGlobal>
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+#include <QtGui/QAction>
+#else
 #include <QtWidgets/QAction>
+#endif
 
 CKyUIActionImpl::~CKyUIActionImpl()
 {

@@ -3,7 +3,9 @@
 #include "UI/CKyUIObject.h"
 #include "UI/Impl/qt/StyleSheetRewriter.h"
 
+#include <QtCore/QEvent>
 #include <QtGui/QColor>
+#include <QtGui/QPalette>
 #include <QtWidgets/QWidget>
 
 namespace
@@ -29,6 +31,54 @@ constexpr const char* kBorderBottomWidth = "border-bottom-width[ \t]*:[ \t]*[1-9
 // Matches a value of exactly one character only, so an earlier colour stays.
 constexpr const char* kBorderColor = "border-color[ \t]*:[ \t]*[1-9a-zA-Z];";
 constexpr const char* kBackgroundColor = "background-color[ \t]*:[ \t#a-zA-Z1-9]*;";
+
+void SetTextBrush(QWidget* widget, const QBrush& brush)
+{
+    QPalette palette = widget->palette();
+    palette.setBrush(QPalette::All, QPalette::Text, brush);
+    widget->setPalette(palette);
+}
+
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+// Each time Qt 6 polishes a widget with a style sheet again (its sheet
+// rewritten, the dialog's theme arriving), it puts back the palette the widget
+// had at the polish before, which drops a text colour given in between; Qt 5
+// keeps it. This watcher gives the colour back whenever the palette loses it.
+class TextColourKeeper : public QObject
+{
+public:
+    static void Keep(QWidget* widget, const QBrush& brush)
+    {
+        auto* keeper =
+            static_cast<TextColourKeeper*>(widget->findChild<QObject*>(Name(), Qt::FindDirectChildrenOnly));
+        if (!keeper)
+            keeper = new TextColourKeeper(widget);
+        keeper->m_brush = brush;
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::PaletteChange) {
+            auto* widget = static_cast<QWidget*>(watched);
+            if (widget->palette().brush(QPalette::Active, QPalette::Text) != m_brush)
+                SetTextBrush(widget, m_brush);
+        }
+        return false;
+    }
+
+private:
+    explicit TextColourKeeper(QWidget* widget)
+        : QObject(widget)
+    {
+        setObjectName(Name());
+        widget->installEventFilter(this);
+    }
+
+    static QString Name() { return QStringLiteral("commonui_text_colour"); }
+
+    QBrush m_brush;
+};
+#endif
 } // namespace
 
 QWidget* CKyUIBaseViewImpl::WidgetOf(const CKyUIObject* object)
@@ -151,7 +201,9 @@ void CKyUIBaseViewImpl::SetTextColorImpl(int red, int green, int blue)
     QWidget* widget = GetWidget();
     if (!widget)
         return;
-    QPalette palette = widget->palette();
-    palette.setBrush(QPalette::All, QPalette::Text, QBrush(QColor(red, green, blue, 255), Qt::SolidPattern));
-    widget->setPalette(palette);
+    const QBrush brush(QColor(red, green, blue, 255), Qt::SolidPattern);
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    TextColourKeeper::Keep(widget, brush);
+#endif
+    SetTextBrush(widget, brush);
 }

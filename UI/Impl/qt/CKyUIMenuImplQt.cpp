@@ -4,7 +4,12 @@
 #include "UI/CKyUIBaseView.h"
 #include "UI/Impl/CKyUIBaseViewImpl.h"
 
+#include <QtCore/QtGlobal>
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+#include <QtGui/QAction>
+#else
 #include <QtWidgets/QAction>
+#endif
 #include <QtWidgets/QMenu>
 
 namespace

@@ -16,7 +16,11 @@ QString Rewrite(QString sheet, const QList<QRegExp>& removals, const QString& de
                 Insertion insertion)
 {
     for (const QRegExp& removal : removals)
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+        sheet = removal.replaceIn(sheet, QString());
+#else
         sheet.replace(removal, QString());
+#endif
     const int brace = sheet.lastIndexOf(QLatin1Char('}'));
     const bool insideLastRule =
         insertion == Insertion::BeforeLastBrace ? brace >= 0 : brace > 0;

@@ -1,8 +1,15 @@
 #pragma once
 
 #include <QtCore/QList>
-#include <QtCore/QRegExp>
 #include <QtCore/QString>
+#include <QtCore/QtGlobal>
+// The rules match with QRegExp's own syntax and semantics; Qt 6 keeps the
+// class in its compatibility module.
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+#include <QtCore5Compat/QRegExp>
+#else
+#include <QtCore/QRegExp>
+#endif
 
 #include <initializer_list>
 
