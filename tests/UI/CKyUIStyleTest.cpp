@@ -4,7 +4,6 @@
 
 #include <QtCore/QByteArray>
 #include <QtCore/QFile>
-#include <QtCore/QLibraryInfo>
 #include <QtCore/QMap>
 #include <QtCore/QProcess>
 #include <QtCore/QResource>
@@ -52,10 +51,10 @@ public:
             qrc += "<file>" + it.key().toUtf8() + "</file>";
         }
         Write("qss.qrc", qrc + "</qresource></RCC>");
-        const QString rcc = QLibraryInfo::location(QLibraryInfo::BinariesPath) + "/rcc";
-        m_registered = QProcess::execute(
-                           rcc, {"-binary", "-no-compress", Path("qss.qrc"), "-o", Path("qss.rcc")}) == 0 &&
-                       QResource::registerResource(Path("qss.rcc"));
+        m_registered =
+            QProcess::execute(QStringLiteral(COMMONUI_RCC),
+                              {"-binary", "-no-compress", Path("qss.qrc"), "-o", Path("qss.rcc")}) == 0 &&
+            QResource::registerResource(Path("qss.rcc"));
     }
 
     ~QssResources()
