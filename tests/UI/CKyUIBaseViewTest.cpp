@@ -166,6 +166,7 @@ TEST(CKyUIBaseViewTest, WithoutImplementationEverythingIsQuiet)
     EXPECT_EQ(bare.width(), -1);
     EXPECT_EQ(bare.height(), -1);
     EXPECT_FALSE(bare.isVisible());
+    EXPECT_FALSE(bare.isEnabled());
     EXPECT_EQ(bare.backgroundRole(), 9);
 }
 

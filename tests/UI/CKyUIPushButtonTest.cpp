@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QtGui/QPixmap>
+
 #include <QtCore/QMetaMethod>
 #include <QtCore/QPointer>
 #include <QtTest/QTest>
@@ -38,6 +40,10 @@ TEST(CKyUIPushButtonTest, CreatesItsFrontendAsAnAutoDefaultButtonAndKeepsItsText
     EXPECT_TRUE(widget->icon().isNull());
     EXPECT_TRUE(static_cast<CKyUIPushButtonImpl*>(button.impl())->Icon().isNull());
     EXPECT_EQ(widget->styleSheet(), "QPushButton { }");
+    QPixmap red(8, 8);
+    red.fill(Qt::red);
+    button.setIcon(QIcon(red));
+    EXPECT_FALSE(widget->icon().isNull());
 }
 
 TEST(CKyUIPushButtonTest, FrontendDeclaresThreeSlotsAndNoSignals)
