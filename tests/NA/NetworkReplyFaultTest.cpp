@@ -1,20 +1,9 @@
-#include "NA/CKyNANetworkAccessManager.h"
-#include "NA/CKyNANetworkReply.h"
-#include "NA/CKyNANetworkRequest.h"
-
 #include "NA/ClosedPort.h"
-#include "NA/EventWait.h"
 #include "NA/HttpTestServer.h"
 #include "NA/NetworkSignals.h"
 
-#include <QtCore/QElapsedTimer>
-#include <QtCore/QPointer>
-#include <QtNetwork/QNetworkReply>
 #include <QtTest/QSignalSpy>
 
-#include <gtest/gtest.h>
-
-#include <memory>
 #include <vector>
 
 namespace
@@ -40,52 +29,33 @@ protected:
 // machine, even for a name under .invalid.)
 TEST_F(NetworkReplyFault, EachFaultGivesItsErrorThenFinishedBeforeTheTimeout)
 {
-    Route midBody;
-    midBody.mode = Mode::CloseMidBody;
-    midBody.body = QByteArray(4000, 'm');
-    server.setRoute("/mid-body", midBody);
-    Route malformed;
-    malformed.mode = Mode::Malformed;
-    malformed.body = "HTTP/1.1 two hundred OK\r\nContent-Length: 2\r\n\r\nok";
-    server.setRoute("/malformed", malformed);
-    Route notHttp;
-    notHttp.mode = Mode::Malformed;
-    notHttp.body = "220 mail.example ESMTP ready\r\n";
-    server.setRoute("/not-http", notHttp);
-    Route hangUp;
-    hangUp.mode = Mode::CloseEarly;
-    server.setRoute("/hang-up", hangUp);
-
     ClosedPort refused;
     ASSERT_TRUE(refused.isValid());
-
     const struct
     {
         const char* name;
-        QUrl url;
-        CKyNANetworkReply::NetworkError error;
+        Mode mode;
+        QByteArray answer;
+        CKyNANetworkReply::NetworkError error = CKyNANetworkReply::RemoteHostClosedError;
     } cases[] = {
-        {"closed in the middle of the body", server.url(QStringLiteral("/mid-body")),
-         CKyNANetworkReply::RemoteHostClosedError},
+        {"closed in the middle of the body", Mode::CloseMidBody, QByteArray(4000, 'm')},
         // The toolkit takes a status line it cannot read for a broken
         // connection (and tries again before it gives up).
-        {"malformed status line", server.url(QStringLiteral("/malformed")),
-         CKyNANetworkReply::RemoteHostClosedError},
-        {"no HTTP at all", server.url(QStringLiteral("/not-http")), CKyNANetworkReply::RemoteHostClosedError},
-        {"closed without an answer", server.url(QStringLiteral("/hang-up")),
-         CKyNANetworkReply::RemoteHostClosedError},
-        {"connection refused", refused.url(), CKyNANetworkReply::ConnectionRefusedError},
+        {"malformed status line", Mode::Malformed, "HTTP/1.1 two hundred OK\r\nContent-Length: 2\r\n\r\nok"},
+        {"no HTTP at all", Mode::Malformed, "220 mail.example ESMTP ready\r\n"},
+        {"closed without an answer", Mode::CloseEarly, ""},
+        {"connection refused", Mode::Answer, "", CKyNANetworkReply::ConnectionRefusedError},
     };
     const int timeout = 10000;
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
-        CKyNANetworkRequest request(c.url);
+        server.setRoute("/", Route{c.mode, {}, c.answer});
+        CKyNANetworkRequest request(c.error == CKyNANetworkReply::ConnectionRefusedError ? refused.url()
+                                                                                         : server.url("/"));
         request.setRequestTimeout(timeout);
         std::unique_ptr<CKyNANetworkReply> reply(manager.get(request));
-        ASSERT_TRUE(reply);
         Recorder recorder;
-        RecordReply(recorder, reply.get());
-        ASSERT_TRUE(waitUntil([&] { return recorder.has(QStringLiteral("finished")); }, timeout));
+        ASSERT_TRUE(waitFinished(RecordReply(recorder, reply.get()), timeout));
         EXPECT_EQ(Outcome(recorder),
                   (QStringList{QStringLiteral("error:%1").arg(int(c.error)), QStringLiteral("finished")}));
         EXPECT_EQ(errorCode(*reply), c.error);
@@ -98,9 +68,7 @@ TEST_F(NetworkReplyFault, EachFaultGivesItsErrorThenFinishedBeforeTheTimeout)
 
 TEST_F(NetworkReplyFault, StalledServerEndsEachReplyAtItsOwnTimeout)
 {
-    Route stall;
-    stall.mode = Mode::Stall;
-    server.setRoute("/stall", stall);
+    server.setRoute("/stall", Route{Mode::Stall, {}, {}});
 
     const int timeouts[] = {1000, 50, 200};
     struct Transfer
@@ -141,9 +109,7 @@ TEST_F(NetworkReplyFault, StalledServerEndsEachReplyAtItsOwnTimeout)
 
 TEST_F(NetworkReplyFault, DeletingARunningReplyEndsItsTransferAndItsSignals)
 {
-    Route trickle;
-    trickle.mode = Mode::Trickle;
-    server.setRoute("/trickle", trickle);
+    server.setRoute("/trickle", Route{Mode::Trickle, {}, {}});
     CKyNANetworkRequest request(server.url(QStringLiteral("/trickle")));
 
     // Deleted at once, before the event loop has seen the transfer at all.
