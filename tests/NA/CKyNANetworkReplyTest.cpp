@@ -28,14 +28,6 @@ protected:
         server.setRoute("/", Route{mode, headers, body});
         return manager.get(request);
     }
-    // The same, waiting until it finished.
-    std::unique_ptr<CKyNANetworkReply> fetch(const HttpHeaderPairs& headers)
-    {
-        std::unique_ptr<CKyNANetworkReply> reply(start(headers, "body"));
-        Recorder recorder;
-        EXPECT_TRUE(waitFinished(RecordReply(recorder, reply.get())));
-        return reply;
-    }
 
     HttpTestServer server;
     CKyNANetworkAccessManager manager;
@@ -78,12 +70,11 @@ TEST_F(NetworkReply, NothingIsReadableBeforeTheTransferEnds)
 
 TEST_F(NetworkReply, RepeatedHeaderNamesMergeAsInTheToolkitAndNamesMatchCaseSensitively)
 {
-    const auto reply = fetch({{"X-Rep", "1"},
-                              {"X-Rep", "2"},
-                              {"Set-Cookie", "a=1"},
-                              {"Set-Cookie", "b=2"},
-                              {"X-After", "z"},
-                              {"content-type", "text/plain"}});
+    const HttpHeaderPairs headers{{"X-Rep", "1"},        {"X-Rep", "2"},   {"Set-Cookie", "a=1"},
+                                  {"Set-Cookie", "b=2"}, {"X-After", "z"}, {"content-type", "text/plain"}};
+    std::unique_ptr<CKyNANetworkReply> reply(start(headers, "body"));
+    Recorder recorder;
+    ASSERT_TRUE(waitFinished(RecordReply(recorder, reply.get())));
     auto* toolkit = qobject_cast<QNetworkReply*>(reply->getHandle());
     ASSERT_TRUE(toolkit);
 

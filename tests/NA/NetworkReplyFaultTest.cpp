@@ -4,8 +4,6 @@
 
 #include <QtTest/QSignalSpy>
 
-#include <vector>
-
 namespace
 {
 
@@ -71,25 +69,20 @@ TEST_F(NetworkReplyFault, StalledServerEndsEachReplyAtItsOwnTimeout)
     server.setRoute("/stall", Route{Mode::Stall, {}, {}});
 
     const int timeouts[] = {1000, 50, 200};
-    struct Transfer
-    {
-        std::unique_ptr<CKyNANetworkRequest> request;
-        std::unique_ptr<CKyNANetworkReply> reply;
-        std::unique_ptr<Recorder> recorder = std::make_unique<Recorder>();
-        qint64 endedAfter = -1;
-    };
+    CKyNANetworkRequest requests[3];
+    std::unique_ptr<CKyNANetworkReply> replies[3];
+    Recorder recorders[3];
+    qint64 endedAfter[3] = {};
     QList<int> endOrder;
     QElapsedTimer clock;
-    std::vector<Transfer> transfers(3);
     clock.start();
     for (int i = 0; i < 3; ++i) {
-        Transfer& t = transfers[i];
-        t.request = std::make_unique<CKyNANetworkRequest>(server.url(QStringLiteral("/stall")));
-        t.request->setRequestTimeout(timeouts[i]);
-        t.reply.reset(manager.get(*t.request));
-        RecordReply(*t.recorder, t.reply.get());
-        t.reply->finished().connect([&, i] {
-            transfers[i].endedAfter = clock.elapsed();
+        requests[i].setUrl(server.url(QStringLiteral("/stall")));
+        requests[i].setRequestTimeout(timeouts[i]);
+        replies[i].reset(manager.get(requests[i]));
+        RecordReply(recorders[i], replies[i].get());
+        replies[i]->finished().connect([&, i] {
+            endedAfter[i] = clock.elapsed();
             endOrder << timeouts[i];
         });
     }
@@ -99,11 +92,11 @@ TEST_F(NetworkReplyFault, StalledServerEndsEachReplyAtItsOwnTimeout)
     EXPECT_EQ(endOrder, (QList<int>{50, 200, 1000}));
     for (int i = 0; i < 3; ++i) {
         SCOPED_TRACE(timeouts[i]);
-        const Transfer& t = transfers[i];
-        EXPECT_EQ(Outcome(*t.recorder), (QStringList{QStringLiteral("error:5"), QStringLiteral("finished")}));
+        EXPECT_EQ(Outcome(recorders[i]),
+                  (QStringList{QStringLiteral("error:5"), QStringLiteral("finished")}));
         // Generous: coarse timers may fire a little early, a busy machine late.
-        EXPECT_GE(t.endedAfter, timeouts[i] * 9 / 10);
-        EXPECT_LT(t.endedAfter, timeouts[i] + 5000);
+        EXPECT_GE(endedAfter[i], timeouts[i] * 9 / 10);
+        EXPECT_LT(endedAfter[i], timeouts[i] + 5000);
     }
 }
 
