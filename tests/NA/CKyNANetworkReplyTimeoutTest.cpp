@@ -51,39 +51,33 @@ protected:
 
 } // namespace
 
-TEST_F(ReplyTimeout, ProgressDoesNotPostponeTheAbort)
+TEST_F(ReplyTimeout, ProgressDoesNotPostponeTheAbortAndAFinishedTransferIsNotAbortedLater)
 {
-    auto reply = start("/trickle", 200);
-    Recorder recorder;
-    RecordReply(recorder, reply.get());
-    QSignalSpy arrivals(reply->getHandle(), SIGNAL(readyRead()));
-    ASSERT_TRUE(waitFinished(recorder));
-
-    // Bytes kept arriving every 20 ms; the time-out bounds the whole transfer.
-    EXPECT_GT(arrivals.count(), 1);
-    EXPECT_EQ(Outcome(recorder), (QStringList{QStringLiteral("error:5"), QStringLiteral("finished")}));
-}
-
-TEST_F(ReplyTimeout, FinishedTransferIsNotAbortedLater)
-{
-    auto reply = start("/quick", 200);
-    // Started with the guard, so it fires only after the guard would have.
+    auto trickling = start("/trickle", 200);
+    auto quick = start("/quick", 200);
+    // Started with the guards, so it fires only after they would have.
     QTimer witness;
     witness.setSingleShot(true);
     witness.start(230);
-    Recorder recorder;
-    RecordReply(recorder, reply.get());
-    CKyNANetworkReplyTimeout* guard = guardOf(*reply);
+    Recorder trickled, finished;
+    RecordReply(trickled, trickling.get());
+    RecordReply(finished, quick.get());
+    QSignalSpy arrivals(trickling->getHandle(), SIGNAL(readyRead()));
+    CKyNANetworkReplyTimeout* guard = guardOf(*quick);
     ASSERT_TRUE(guard);
-    ASSERT_TRUE(waitFinished(recorder));
+    ASSERT_TRUE(waitFinished(finished));
 
     // Stopped by the finish, before the reply's own handlers ran.
     EXPECT_FALSE(guard->isActive());
     EXPECT_EQ(armedInterval(guard), -1);
+    ASSERT_TRUE(waitFinished(trickled));
     ASSERT_TRUE(waitUntil([&] { return !witness.isActive(); }));
-    EXPECT_EQ(Outcome(recorder), QStringList{QStringLiteral("finished")});
-    EXPECT_EQ(errorCode(*reply), CKyNANetworkReply::NoError);
-    EXPECT_EQ(reply->readAll(), QByteArray("in time"));
+    EXPECT_EQ(Outcome(finished), QStringList{QStringLiteral("finished")});
+    EXPECT_EQ(errorCode(*quick), CKyNANetworkReply::NoError);
+    EXPECT_EQ(quick->readAll(), QByteArray("in time"));
+    // Bytes kept arriving every 20 ms; the time-out bounds the whole transfer.
+    EXPECT_GT(arrivals.count(), 1);
+    EXPECT_EQ(Outcome(trickled), (QStringList{QStringLiteral("error:5"), QStringLiteral("finished")}));
 }
 
 // The guard ignores foreign timers and replies that are over.
