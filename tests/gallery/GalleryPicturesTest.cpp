@@ -49,23 +49,20 @@ TEST(GalleryPictures, EveryPageLooksLikeItsCommittedPicture)
         if (result.matches())
             continue;
         page.image.save(fresh);
-        std::string what;
-        if (!result.sameSize) {
-            const auto size = [](const QImage& image) {
-                return QString("%1x%2").arg(image.width()).arg(image.height());
-            };
-            what = ("is " + size(page.image) + " pixels, the picture " + size(expected)).toStdString();
-        } else {
+        const auto size = [](const QImage& image) {
+            return QString("%1x%2").arg(image.width()).arg(image.height());
+        };
+        QString what = "is " + size(page.image) + " pixels, the picture " + size(expected);
+        if (result.sameSize) {
             result.difference.save(difference);
             what = QString("differs from the picture in %1 by more than %2 levels (at most %3 % "
                            "may); difference picture: %4")
                        .arg(result.summary())
                        .arg(PictureComparison::DefaultLevels)
                        .arg(100 * PictureComparison::DefaultShare)
-                       .arg(difference)
-                       .toStdString();
+                       .arg(difference);
         }
-        ADD_FAILURE() << "page \"" << page.title.toStdString() << "\" " << what
+        ADD_FAILURE() << "page \"" << page.title.toStdString() << "\" " << what.toStdString()
                       << "\n  committed: " << reference.toStdString()
                       << "\n  rendered:  " << fresh.toStdString()
                       << "\n  if the change is intended, run scripts/demo and copy "
