@@ -1,21 +1,11 @@
 #include "NA/Impl/qt/CKyNANetworkReplyTimeout.h"
-#include "NA/CKyNANetworkAccessManager.h"
-#include "NA/CKyNANetworkReply.h"
-#include "NA/CKyNANetworkRequest.h"
 
-#include "NA/EventWait.h"
 #include "NA/HttpTestServer.h"
 #include "NA/NetworkSignals.h"
 
 #include <QtCore/QAbstractEventDispatcher>
-#include <QtCore/QTimer>
 #include <QtCore/QTimerEvent>
-#include <QtNetwork/QNetworkReply>
 #include <QtTest/QSignalSpy>
-
-#include <gtest/gtest.h>
-
-#include <memory>
 
 namespace
 {
@@ -42,14 +32,14 @@ protected:
     void SetUp() override
     {
         ASSERT_TRUE(server.isListening());
-        Route stall;
-        stall.mode = Mode::Stall;
-        server.setRoute("/stall", stall);
+        server.setRoute("/stall", Route{Mode::Stall, {}, {}});
+        server.setRoute("/trickle", Route{Mode::Trickle, {}, {}});
+        server.setRoute("/quick", Route{Mode::Answer, {}, "in time"});
     }
 
-    std::unique_ptr<CKyNANetworkReply> start(const QString& path, int timeout)
+    std::unique_ptr<CKyNANetworkReply> start(const char* path, int timeout)
     {
-        request.setUrl(server.url(path));
+        request.setUrl(server.url(QLatin1String(path)));
         request.setRequestTimeout(timeout);
         return std::unique_ptr<CKyNANetworkReply>(manager.get(request));
     }
@@ -61,49 +51,36 @@ protected:
 
 } // namespace
 
-TEST_F(ReplyTimeout, ProgressDoesNotPostponeTheAbort)
+TEST_F(ReplyTimeout, ProgressDoesNotPostponeTheAbortAndAFinishedTransferIsNotAbortedLater)
 {
-    Route trickle;
-    trickle.mode = Mode::Trickle;
-    server.setRoute("/trickle", trickle);
-
-    auto reply = start(QStringLiteral("/trickle"), 200);
-    Recorder recorder;
-    RecordReply(recorder, reply.get());
-    QSignalSpy arrivals(reply->getHandle(), SIGNAL(readyRead()));
-    ASSERT_TRUE(waitUntil([&] { return recorder.has(QStringLiteral("finished")); }, 5000));
-
-    // Bytes kept arriving every 20 ms; the time-out bounds the whole transfer.
-    EXPECT_GT(arrivals.count(), 1);
-    EXPECT_EQ(Outcome(recorder), (QStringList{QStringLiteral("error:5"), QStringLiteral("finished")}));
-}
-
-TEST_F(ReplyTimeout, FinishedTransferIsNotAbortedLater)
-{
-    Route quick;
-    quick.body = "in time";
-    server.setRoute("/quick", quick);
-
-    auto reply = start(QStringLiteral("/quick"), 200);
-    // Started with the guard, so it fires only after the guard would have.
+    auto trickling = start("/trickle", 200);
+    auto quick = start("/quick", 200);
+    // Started with the guards, so it fires only after they would have.
     QTimer witness;
     witness.setSingleShot(true);
     witness.start(230);
-    Recorder recorder;
-    RecordReply(recorder, reply.get());
-    CKyNANetworkReplyTimeout* guard = guardOf(*reply);
+    Recorder trickled, finished;
+    RecordReply(trickled, trickling.get());
+    RecordReply(finished, quick.get());
+    QSignalSpy arrivals(trickling->getHandle(), SIGNAL(readyRead()));
+    CKyNANetworkReplyTimeout* guard = guardOf(*quick);
     ASSERT_TRUE(guard);
-    ASSERT_TRUE(waitUntil([&] { return recorder.has(QStringLiteral("finished")); }));
+    ASSERT_TRUE(waitFinished(finished));
 
     // Stopped by the finish, before the reply's own handlers ran.
     EXPECT_FALSE(guard->isActive());
     EXPECT_EQ(armedInterval(guard), -1);
+    ASSERT_TRUE(waitFinished(trickled));
     ASSERT_TRUE(waitUntil([&] { return !witness.isActive(); }));
-    EXPECT_EQ(Outcome(recorder), QStringList{QStringLiteral("finished")});
-    EXPECT_EQ(errorCode(*reply), CKyNANetworkReply::NoError);
-    EXPECT_EQ(reply->readAll(), QByteArray("in time"));
+    EXPECT_EQ(Outcome(finished), QStringList{QStringLiteral("finished")});
+    EXPECT_EQ(errorCode(*quick), CKyNANetworkReply::NoError);
+    EXPECT_EQ(quick->readAll(), QByteArray("in time"));
+    // Bytes kept arriving every 20 ms; the time-out bounds the whole transfer.
+    EXPECT_GT(arrivals.count(), 1);
+    EXPECT_EQ(Outcome(trickled), (QStringList{QStringLiteral("error:5"), QStringLiteral("finished")}));
 }
 
+// The guard ignores foreign timers and replies that are over.
 TEST_F(ReplyTimeout, TimerFollowsTheRequestOrFallsBackTo30Seconds)
 {
     const struct
@@ -114,17 +91,14 @@ TEST_F(ReplyTimeout, TimerFollowsTheRequestOrFallsBackTo30Seconds)
     for (const auto& c : cases) {
         SCOPED_TRACE(c.requested);
         // Read before any event is processed, so even 1 ms has not fired yet.
-        auto reply = start(QStringLiteral("/stall"), c.requested);
+        auto reply = start("/stall", c.requested);
         CKyNANetworkReplyTimeout* guard = guardOf(*reply);
         ASSERT_TRUE(guard);
         EXPECT_TRUE(guard->isActive());
         EXPECT_EQ(armedInterval(guard), c.armed);
     }
-}
 
-TEST_F(ReplyTimeout, GuardIgnoresForeignTimersAndRepliesThatAreOver)
-{
-    auto reply = start(QStringLiteral("/stall"), 30000);
+    auto reply = start("/stall", 30000);
     auto* toolkit = qobject_cast<QNetworkReply*>(reply->getHandle());
     CKyNANetworkReplyTimeout* guard = guardOf(*reply);
     ASSERT_TRUE(toolkit && guard);

@@ -17,20 +17,6 @@ const QUrl kUrl(QStringLiteral("http://127.0.0.1:1/path"));
 
 } // namespace
 
-TEST(CKyNANetworkRequest, ConstructorUrlReachesOnlyTheToolkitRequest)
-{
-    CKyNANetworkRequest request(kUrl);
-    EXPECT_TRUE(request.url().isEmpty());
-    ASSERT_NE(request.getHandle(), nullptr);
-    EXPECT_EQ(request.getHandle()->url(), kUrl);
-    EXPECT_EQ(request.requestTimeout(), 0);
-
-    const QUrl other(QStringLiteral("http://127.0.0.1:2/other"));
-    request.setUrl(other);
-    EXPECT_EQ(request.url(), other);
-    EXPECT_EQ(request.getHandle()->url(), other);
-}
-
 TEST(CKyNANetworkRequest, RawHeadersMatchCaseSensitivelyAndListInByteOrder)
 {
     CKyNANetworkRequest request(kUrl);
@@ -66,9 +52,14 @@ TEST(CKyNANetworkRequest, DestructionFreesTheToolkitRequest)
     EXPECT_TRUE(value.isDetached());
 }
 
-TEST(CKyNANetworkRequest, CopyCarriesOnlyTheUrlField)
+// A request made, copied or assigned passes its URL to the toolkit request
+// only; headers and time-out stay behind.
+TEST(CKyNANetworkRequest, ConstructionCopyAndAssignmentCarryOnlyTheUrl)
 {
     CKyNANetworkRequest original(kUrl);
+    EXPECT_TRUE(original.url().isEmpty());
+    EXPECT_EQ(original.getHandle()->url(), kUrl);
+    EXPECT_EQ(original.requestTimeout(), 0);
     original.setRawHeader("X-A", "1");
     original.setHeader(CKyNANetworkRequest::ContentTypeHeader, QByteArray("text/plain"));
     original.setRequestTimeout(200);
@@ -79,8 +70,8 @@ TEST(CKyNANetworkRequest, CopyCarriesOnlyTheUrlField)
     EXPECT_TRUE(unset.getHandle()->url().isEmpty());
 
     original.setUrl(kUrl);
+    EXPECT_EQ(original.url(), kUrl);
     CKyNANetworkRequest copy(original);
-    // The copy is made like a new request: the URL reaches its toolkit request only.
     EXPECT_TRUE(copy.url().isEmpty());
     EXPECT_EQ(copy.getHandle()->url(), kUrl);
     EXPECT_NE(copy.getHandle(), original.getHandle());
@@ -89,22 +80,18 @@ TEST(CKyNANetworkRequest, CopyCarriesOnlyTheUrlField)
     EXPECT_TRUE(copy.rawHeaderList().isEmpty());
     EXPECT_FALSE(copy.header(CKyNANetworkRequest::ContentTypeHeader).isValid());
     EXPECT_TRUE(copy.getHandle()->rawHeaderList().isEmpty());
-}
 
-TEST(CKyNANetworkRequest, AssignmentInstallsAFreshRequestFromTheUrlField)
-{
     CKyNANetworkRequest target(QUrl(QStringLiteral("http://127.0.0.1:3/old")));
     target.setRawHeader("X-Old", "1");
+    target.setRequestTimeout(50);
     QNetworkRequest* previous = target.getHandle();
-
-    CKyNANetworkRequest source(kUrl);
-    source.setUrl(kUrl);
-    source.setRequestTimeout(50);
-    target = source;
-
+    const QUrl other(QStringLiteral("http://127.0.0.1:2/other"));
+    original.setUrl(other);
+    EXPECT_EQ(original.getHandle()->url(), other);
+    target = original;
     EXPECT_NE(target.getHandle(), previous);
     EXPECT_TRUE(target.url().isEmpty());
-    EXPECT_EQ(target.getHandle()->url(), kUrl);
+    EXPECT_EQ(target.getHandle()->url(), other);
     EXPECT_EQ(target.requestTimeout(), 0);
     EXPECT_FALSE(target.rawHeader("X-Old").isValid());
     // The previous toolkit request was left alone.

@@ -20,15 +20,11 @@ public:
         address.sin_family = AF_INET;
         address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
         socklen_t length = sizeof(address);
-        if (m_socket >= 0 && ::bind(m_socket, reinterpret_cast<sockaddr*>(&address), sizeof(address)) == 0 &&
+        if (::bind(m_socket, reinterpret_cast<sockaddr*>(&address), sizeof(address)) == 0 &&
             ::getsockname(m_socket, reinterpret_cast<sockaddr*>(&address), &length) == 0)
             m_port = ntohs(address.sin_port);
     }
-    ~ClosedPort()
-    {
-        if (m_socket >= 0)
-            ::close(m_socket);
-    }
+    ~ClosedPort() { ::close(m_socket); } // a failed socket() gives -1, which close() refuses harmlessly
     ClosedPort(const ClosedPort&) = delete;
     ClosedPort& operator=(const ClosedPort&) = delete;
 

@@ -1,21 +1,8 @@
-#include "NA/CKyNANetworkAccessManager.h"
-#include "NA/CKyNANetworkReply.h"
-#include "NA/CKyNANetworkRequest.h"
-
 #include "NA/ClosedPort.h"
-#include "NA/EventWait.h"
 #include "NA/HttpTestServer.h"
 #include "NA/NetworkSignals.h"
 
-#include <QtCore/QElapsedTimer>
-#include <QtCore/QPointer>
-#include <QtNetwork/QNetworkReply>
 #include <QtTest/QSignalSpy>
-
-#include <gtest/gtest.h>
-
-#include <memory>
-#include <vector>
 
 namespace
 {
@@ -40,52 +27,33 @@ protected:
 // machine, even for a name under .invalid.)
 TEST_F(NetworkReplyFault, EachFaultGivesItsErrorThenFinishedBeforeTheTimeout)
 {
-    Route midBody;
-    midBody.mode = Mode::CloseMidBody;
-    midBody.body = QByteArray(4000, 'm');
-    server.setRoute("/mid-body", midBody);
-    Route malformed;
-    malformed.mode = Mode::Malformed;
-    malformed.body = "HTTP/1.1 two hundred OK\r\nContent-Length: 2\r\n\r\nok";
-    server.setRoute("/malformed", malformed);
-    Route notHttp;
-    notHttp.mode = Mode::Malformed;
-    notHttp.body = "220 mail.example ESMTP ready\r\n";
-    server.setRoute("/not-http", notHttp);
-    Route hangUp;
-    hangUp.mode = Mode::CloseEarly;
-    server.setRoute("/hang-up", hangUp);
-
     ClosedPort refused;
     ASSERT_TRUE(refused.isValid());
-
     const struct
     {
         const char* name;
-        QUrl url;
-        CKyNANetworkReply::NetworkError error;
+        Mode mode;
+        QByteArray answer;
+        CKyNANetworkReply::NetworkError error = CKyNANetworkReply::RemoteHostClosedError;
     } cases[] = {
-        {"closed in the middle of the body", server.url(QStringLiteral("/mid-body")),
-         CKyNANetworkReply::RemoteHostClosedError},
+        {"closed in the middle of the body", Mode::CloseMidBody, QByteArray(4000, 'm')},
         // The toolkit takes a status line it cannot read for a broken
         // connection (and tries again before it gives up).
-        {"malformed status line", server.url(QStringLiteral("/malformed")),
-         CKyNANetworkReply::RemoteHostClosedError},
-        {"no HTTP at all", server.url(QStringLiteral("/not-http")), CKyNANetworkReply::RemoteHostClosedError},
-        {"closed without an answer", server.url(QStringLiteral("/hang-up")),
-         CKyNANetworkReply::RemoteHostClosedError},
-        {"connection refused", refused.url(), CKyNANetworkReply::ConnectionRefusedError},
+        {"malformed status line", Mode::Malformed, "HTTP/1.1 two hundred OK\r\nContent-Length: 2\r\n\r\nok"},
+        {"no HTTP at all", Mode::Malformed, "220 mail.example ESMTP ready\r\n"},
+        {"closed without an answer", Mode::CloseEarly, ""},
+        {"connection refused", Mode::Answer, "", CKyNANetworkReply::ConnectionRefusedError},
     };
     const int timeout = 10000;
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
-        CKyNANetworkRequest request(c.url);
+        server.setRoute("/", Route{c.mode, {}, c.answer});
+        CKyNANetworkRequest request(c.error == CKyNANetworkReply::ConnectionRefusedError ? refused.url()
+                                                                                         : server.url("/"));
         request.setRequestTimeout(timeout);
         std::unique_ptr<CKyNANetworkReply> reply(manager.get(request));
-        ASSERT_TRUE(reply);
         Recorder recorder;
-        RecordReply(recorder, reply.get());
-        ASSERT_TRUE(waitUntil([&] { return recorder.has(QStringLiteral("finished")); }, timeout));
+        ASSERT_TRUE(waitFinished(RecordReply(recorder, reply.get()), timeout));
         EXPECT_EQ(Outcome(recorder),
                   (QStringList{QStringLiteral("error:%1").arg(int(c.error)), QStringLiteral("finished")}));
         EXPECT_EQ(errorCode(*reply), c.error);
@@ -98,30 +66,23 @@ TEST_F(NetworkReplyFault, EachFaultGivesItsErrorThenFinishedBeforeTheTimeout)
 
 TEST_F(NetworkReplyFault, StalledServerEndsEachReplyAtItsOwnTimeout)
 {
-    Route stall;
-    stall.mode = Mode::Stall;
-    server.setRoute("/stall", stall);
+    server.setRoute("/stall", Route{Mode::Stall, {}, {}});
 
     const int timeouts[] = {1000, 50, 200};
-    struct Transfer
-    {
-        std::unique_ptr<CKyNANetworkRequest> request;
-        std::unique_ptr<CKyNANetworkReply> reply;
-        std::unique_ptr<Recorder> recorder = std::make_unique<Recorder>();
-        qint64 endedAfter = -1;
-    };
+    CKyNANetworkRequest requests[3];
+    std::unique_ptr<CKyNANetworkReply> replies[3];
+    Recorder recorders[3];
+    qint64 endedAfter[3] = {};
     QList<int> endOrder;
     QElapsedTimer clock;
-    std::vector<Transfer> transfers(3);
     clock.start();
     for (int i = 0; i < 3; ++i) {
-        Transfer& t = transfers[i];
-        t.request = std::make_unique<CKyNANetworkRequest>(server.url(QStringLiteral("/stall")));
-        t.request->setRequestTimeout(timeouts[i]);
-        t.reply.reset(manager.get(*t.request));
-        RecordReply(*t.recorder, t.reply.get());
-        t.reply->finished().connect([&, i] {
-            transfers[i].endedAfter = clock.elapsed();
+        requests[i].setUrl(server.url(QStringLiteral("/stall")));
+        requests[i].setRequestTimeout(timeouts[i]);
+        replies[i].reset(manager.get(requests[i]));
+        RecordReply(recorders[i], replies[i].get());
+        replies[i]->finished().connect([&, i] {
+            endedAfter[i] = clock.elapsed();
             endOrder << timeouts[i];
         });
     }
@@ -131,19 +92,17 @@ TEST_F(NetworkReplyFault, StalledServerEndsEachReplyAtItsOwnTimeout)
     EXPECT_EQ(endOrder, (QList<int>{50, 200, 1000}));
     for (int i = 0; i < 3; ++i) {
         SCOPED_TRACE(timeouts[i]);
-        const Transfer& t = transfers[i];
-        EXPECT_EQ(Outcome(*t.recorder), (QStringList{QStringLiteral("error:5"), QStringLiteral("finished")}));
+        EXPECT_EQ(Outcome(recorders[i]),
+                  (QStringList{QStringLiteral("error:5"), QStringLiteral("finished")}));
         // Generous: coarse timers may fire a little early, a busy machine late.
-        EXPECT_GE(t.endedAfter, timeouts[i] * 9 / 10);
-        EXPECT_LT(t.endedAfter, timeouts[i] + 5000);
+        EXPECT_GE(endedAfter[i], timeouts[i] * 9 / 10);
+        EXPECT_LT(endedAfter[i], timeouts[i] + 5000);
     }
 }
 
 TEST_F(NetworkReplyFault, DeletingARunningReplyEndsItsTransferAndItsSignals)
 {
-    Route trickle;
-    trickle.mode = Mode::Trickle;
-    server.setRoute("/trickle", trickle);
+    server.setRoute("/trickle", Route{Mode::Trickle, {}, {}});
     CKyNANetworkRequest request(server.url(QStringLiteral("/trickle")));
 
     // Deleted at once, before the event loop has seen the transfer at all.

@@ -1,8 +1,41 @@
 #pragma once
 
+// What the network tests share: the classes under test, an event-driven wait
+// and the recording of what replies and sockets report.
+#include "NA/CKyNANetworkAccessManager.h"
 #include "NA/CKyNANetworkReply.h"
+#include "NA/CKyNANetworkRequest.h"
 #include "NA/CKyNAWebSocket.h"
 #include "support/Recorder.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QPointer>
+#include <QtCore/QTimer>
+#include <QtNetwork/QNetworkReply>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+// Runs the event loop until the condition holds or the deadline passes;
+// wakes on every event, so it returns as soon as the condition is met.
+template <class Condition> bool waitUntil(Condition condition, int timeoutMs = 5000)
+{
+    QElapsedTimer elapsed;
+    elapsed.start();
+    QTimer deadline;
+    deadline.setSingleShot(true);
+    // A coarse timer may fire early, and the loop below would then sleep on.
+    deadline.setTimerType(Qt::PreciseTimer);
+    deadline.start(timeoutMs);
+    while (!condition()) {
+        if (elapsed.elapsed() >= timeoutMs) // hasExpired() is false right on time
+            return condition();
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+    return true;
+}
 
 // Records what a reply reports: "downloadProgress:<received>,<total>",
 // "uploadProgress:<sent>,<total>", "encrypted", "error:<code>", "finished".
@@ -23,6 +56,12 @@ inline Recorder& RecordSocket(Recorder& recorder, CKyNAWebSocket& socket)
         .on(socket.error(), QStringLiteral("error"))
         .on(socket.disconnected(), QStringLiteral("disconnected"))
         .on(socket.textMessageReceived(), QStringLiteral("text"));
+}
+
+// Runs the event loop until the recorder saw "finished"; false if not in time.
+inline bool waitFinished(const Recorder& recorder, int timeoutMs = 5000)
+{
+    return waitUntil([&] { return recorder.has(QStringLiteral("finished")); }, timeoutMs);
 }
 
 // What a reply reported, its progress left out.

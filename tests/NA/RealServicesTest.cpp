@@ -1,34 +1,15 @@
-#include "NA/CKyNANetworkAccessManager.h"
-#include "NA/CKyNANetworkReply.h"
-#include "NA/CKyNANetworkRequest.h"
-
-#include "NA/EventWait.h"
 #include "NA/HttpTestServer.h"
 #include "NA/NetworkSignals.h"
 
-#include <QtCore/QElapsedTimer>
 #include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
-
-#include <gtest/gtest.h>
-
-#include <memory>
 
 namespace
 {
 
 // Trust and Client imply https; OneHop allows one redirect instead of two.
-enum Options {
-    Https = 1,
-    Trust = 3,
-    Client = 5,
-    IgnoreAll = 8,
-    IgnoreListed = 16,
-    Follow = 32,
-    Downgrade = 64,
-    OneHop = 128,
-    Stream = 256
-};
+constexpr int Https = 1, Trust = 3, Client = 5, IgnoreAll = 8, IgnoreListed = 16, Follow = 32, Downgrade = 64,
+              OneHop = 128, Stream = 256;
 
 QStringList g_warnings;
 

@@ -1,10 +1,6 @@
-#include "NA/CKyNANetworkRequest.h"
-#include "NA/EventWait.h"
 #include "NA/NetworkSignals.h"
 
 #include <QtCore/QProcess>
-
-#include <gtest/gtest.h>
 
 namespace
 {

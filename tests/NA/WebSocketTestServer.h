@@ -1,24 +1,40 @@
 #pragma once
 
-#include <QtCore/QObject>
 #include <QtCore/QPointer>
 #include <QtCore/QUrl>
+#include <QtNetwork/QHostAddress>
 #include <QtWebSockets/QWebSocket>
 #include <QtWebSockets/QWebSocketServer>
 
 // A web-socket server on 127.0.0.1 and a free port. The test drives the
-// accepted connection: text and binary messages, a close with a code; what
-// the client sent on closing is kept.
+// accepted connection, peer(), itself; what the client sent on closing is kept.
 class WebSocketTestServer : public QObject
 {
-    Q_OBJECT
-
 public:
-    explicit WebSocketTestServer(QObject* parent = nullptr);
-    ~WebSocketTestServer() override;
+    WebSocketTestServer()
+        : m_server(QStringLiteral("test"), QWebSocketServer::NonSecureMode)
+    {
+        connect(&m_server, &QWebSocketServer::newConnection, this, [this] {
+            while (QWebSocket* socket = m_server.nextPendingConnection()) {
+                delete m_peer;
+                m_peer = socket;
+                connect(socket, &QWebSocket::disconnected, this, [this, socket] {
+                    m_peerCloseCode = socket->closeCode();
+                    m_peerCloseReason = socket->closeReason();
+                    ++m_disconnections;
+                });
+            }
+        });
+        m_server.listen(QHostAddress::LocalHost, 0);
+    }
+    ~WebSocketTestServer() override
+    {
+        m_server.close();
+        delete m_peer;
+    }
 
     bool isListening() const { return m_server.isListening(); }
-    QUrl url() const;
+    QUrl url() const { return QUrl(QStringLiteral("ws://127.0.0.1:%1/").arg(m_server.serverPort())); }
 
     // The connection accepted last; null before the first.
     QWebSocket* peer() const { return m_peer; }
@@ -26,18 +42,7 @@ public:
     QString peerCloseReason() const { return m_peerCloseReason; }
     int disconnections() const { return m_disconnections; }
 
-    void sendText(const QString& message);
-    void sendBinary(const QByteArray& message);
-    void close(QWebSocketProtocol::CloseCode code, const QString& reason);
-    // Drops the connection at once, without a closing handshake.
-    void abort();
-
-Q_SIGNALS:
-    void peerConnected();
-
 private:
-    void OnNewConnection();
-
     QWebSocketServer m_server;
     QPointer<QWebSocket> m_peer;
     int m_peerCloseCode = -1;

@@ -17,37 +17,20 @@ namespace
 const QString ReferenceDir = QStringLiteral(COMMONUI_GALLERY_REFERENCE_DIR);
 const QString FailureDir = QStringLiteral(COMMONUI_GALLERY_FAILURE_DIR);
 
-class GalleryPictures : public ::testing::Test
-{
-protected:
-    static void SetUpTestSuite()
-    {
-        stable = GalleryRendering::UseStableLook(&problem);
-        if (stable)
-            pages = GalleryRendering::RenderPages();
-    }
-
-    void SetUp() override
-    {
-        ASSERT_TRUE(stable) << "the gallery's font is missing: " << problem.toStdString();
-        ASSERT_FALSE(pages.isEmpty()) << "the gallery rendered no page";
-    }
-
-    static bool stable;
-    static QString problem;
-    static QList<GalleryRendering::RenderedPage> pages;
-};
-
-bool GalleryPictures::stable = false;
-QString GalleryPictures::problem;
-QList<GalleryRendering::RenderedPage> GalleryPictures::pages;
-
 } // namespace
 
-TEST_F(GalleryPictures, EveryPageLooksLikeItsCommittedPicture)
+// Every page looks like its committed picture, and every committed picture is a page.
+TEST(GalleryPictures, EveryPageLooksLikeItsCommittedPicture)
 {
+    QString problem;
+    ASSERT_TRUE(GalleryRendering::UseStableLook(&problem))
+        << "the gallery's font is missing: " << problem.toStdString();
+    const QList<GalleryRendering::RenderedPage> pages = GalleryRendering::RenderPages();
+    ASSERT_FALSE(pages.isEmpty()) << "the gallery rendered no page";
+    QSet<QString> rendered;
     QDir().mkpath(FailureDir);
     for (const GalleryRendering::RenderedPage& page : pages) {
+        rendered.insert(page.fileName);
         const QString reference = QDir(ReferenceDir).filePath(page.fileName);
         const QString fresh = QDir(FailureDir).filePath(page.fileName);
         const QString difference =
@@ -66,37 +49,25 @@ TEST_F(GalleryPictures, EveryPageLooksLikeItsCommittedPicture)
         if (result.matches())
             continue;
         page.image.save(fresh);
-        std::string what;
-        if (!result.sameSize) {
-            what = QString("is %1x%2 pixels, the picture %3x%4")
-                       .arg(page.image.width())
-                       .arg(page.image.height())
-                       .arg(expected.width())
-                       .arg(expected.height())
-                       .toStdString();
-        } else {
+        const auto size = [](const QImage& image) {
+            return QString("%1x%2").arg(image.width()).arg(image.height());
+        };
+        QString what = "is " + size(page.image) + " pixels, the picture " + size(expected);
+        if (result.sameSize) {
             result.difference.save(difference);
             what = QString("differs from the picture in %1 by more than %2 levels (at most %3 % "
                            "may); difference picture: %4")
                        .arg(result.summary())
                        .arg(PictureComparison::DefaultLevels)
                        .arg(100 * PictureComparison::DefaultShare)
-                       .arg(difference)
-                       .toStdString();
+                       .arg(difference);
         }
-        ADD_FAILURE() << "page \"" << page.title.toStdString() << "\" " << what
+        ADD_FAILURE() << "page \"" << page.title.toStdString() << "\" " << what.toStdString()
                       << "\n  committed: " << reference.toStdString()
                       << "\n  rendered:  " << fresh.toStdString()
                       << "\n  if the change is intended, run scripts/demo and copy "
                          "build/screenshots/*.png to docs/screenshots/";
     }
-}
-
-TEST_F(GalleryPictures, EveryCommittedPictureIsAPage)
-{
-    QSet<QString> rendered;
-    for (const GalleryRendering::RenderedPage& page : pages)
-        rendered.insert(page.fileName);
     for (const QString& file : QDir(ReferenceDir).entryList({"*.png"}, QDir::Files))
         EXPECT_TRUE(rendered.contains(file)) << file.toStdString() << " in " << ReferenceDir.toStdString()
                                              << " belongs to no gallery page; remove it or add the page";

@@ -17,7 +17,6 @@
 #include <QtWidgets/QDialog>
 
 #include <functional>
-#include <string>
 #include <vector>
 
 // A client dialog as a plug-in writes it: a label and a button, then the
@@ -71,15 +70,13 @@ constexpr int kStuckResult = -99;
 inline int RunModally(SampleDialog& dialog, const std::function<void(SampleDialog&)>& during,
                       bool flag = true)
 {
-    QTimer watchdog;
-    watchdog.setSingleShot(true);
-    QObject::connect(&watchdog, &QTimer::timeout, [&dialog]() {
+    QObject run; // the timers end with the run
+    QTimer::singleShot(20000, &run, [&dialog]() {
         ADD_FAILURE() << "the modal run did not end";
         if (QDialog* widget = dialog.widget())
             widget->done(kStuckResult);
     });
-    watchdog.start(20000);
-    QTimer::singleShot(0, &watchdog, [&dialog, &during]() {
+    QTimer::singleShot(0, &run, [&dialog, &during]() {
         QDialog* widget = dialog.widget();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(widget));
         EXPECT_EQ(QApplication::activeModalWidget(), widget);
