@@ -86,31 +86,6 @@ TEST_F(NetworkAccessManager, GetFinishesWithStatusBodyAndRawHeaderBytes)
     EXPECT_EQ(reply->readAll(), QByteArray("no route"));
 }
 
-// A redirect is the reply's answer; nothing follows it on any Qt.
-TEST_F(NetworkAccessManager, RedirectIsReportedNotFollowed)
-{
-    Route moved;
-    moved.status = 302;
-    moved.reason = "Found";
-    moved.headers = {{"Location", server.url(QStringLiteral("/target")).toEncoded()}};
-    moved.body = "moved";
-    server.setRoute("/moved", moved);
-    Route target;
-    target.body = "target";
-    server.setRoute("/target", target);
-
-    std::unique_ptr<CKyNANetworkReply> reply(
-        manager.get(CKyNANetworkRequest(server.url(QStringLiteral("/moved")))));
-    ASSERT_TRUE(reply);
-    Recorder recorder;
-    RecordReply(recorder, reply.get());
-    ASSERT_TRUE(waitFinished(recorder));
-    EXPECT_EQ(Outcome(recorder), QStringList{QStringLiteral("finished")});
-    EXPECT_EQ(reply->attribute(CKyNANetworkRequest::HttpStatusCodeAttribute).toInt(), 302);
-    EXPECT_EQ(reply->readAll(), QByteArray("moved"));
-    EXPECT_EQ(server.requests().size(), 1);
-}
-
 TEST_F(NetworkAccessManager, PostPutAndDeleteReachTheServerAsSent)
 {
     server.setRoute("/echo", Route{Mode::Echo, {}, {}});

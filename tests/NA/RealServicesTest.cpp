@@ -117,9 +117,12 @@ TEST_F(RealServices, TlsRedirectsMethodsEncodingsAndStreaming)
         if ((c.options & Client) == Client)
             request.setClientCertificate(QSslCertificate(file("server.pem")),
                                          QSslKey(file("server.key"), QSsl::Ec));
-        request.setFollowRedirects(c.options & Follow);
-        request.setMaximumRedirects(c.options & OneHop ? 1 : 2);
-        request.setAllowInsecureRedirects(c.options & Downgrade);
+        // Untouched unless followed: the toolkits differ in their own default.
+        if (c.options & Follow) {
+            request.setFollowRedirects(true);
+            request.setMaximumRedirects(c.options & OneHop ? 1 : 2);
+            request.setAllowInsecureRedirects(c.options & Downgrade);
+        }
         request.setStreaming(c.options & Stream);
         EXPECT_EQ(run(request, c.verb, c.options).join(' ').toStdString(), c.outcome.join(' ').toStdString());
         EXPECT_EQ(body, c.body) << c.path;
