@@ -11,12 +11,8 @@
 #include <QtWidgets/QFrame>
 
 #include <climits>
-#include <cstdlib>
 #include <functional>
-#include <iterator>
-#include <limits>
 #include <memory>
-#include <random>
 
 namespace
 {
@@ -179,116 +175,6 @@ TEST(StyleSheetRewriting, TextColourGoesToThePaletteWhileEnabled)
     view.setPalette(PaletteWith(QPalette::Base, Qt::red));
     EXPECT_FALSE(plain.property("styleSheet").isValid());
     view.setHandle(nullptr);
-}
-
-namespace
-{
-unsigned EnvironmentNumber(const char* name, unsigned fallback)
-{
-    const char* value = std::getenv(name);
-    return value && *value ? unsigned(std::strtoul(value, nullptr, 10)) : fallback;
-}
-
-// Where a rule's new declaration must stand after the rewrite: in front of
-// the last "}" or at the very end, with no brace changed and nothing else added.
-::testing::AssertionResult DeclarationStandsLast(const QString& before, const QString& after,
-                                                 const QString& declaration)
-{
-    if (after.count(QLatin1Char('}')) != before.count(QLatin1Char('}')))
-        return ::testing::AssertionFailure() << "the braces changed";
-    if (after.size() > before.size() + declaration.size())
-        return ::testing::AssertionFailure() << "more than the declaration was added";
-    for (int at = after.indexOf(declaration); at >= 0; at = after.indexOf(declaration, at + 1)) {
-        const QString tail = after.mid(at + declaration.size());
-        if (tail.isEmpty() || (tail.startsWith(QLatin1Char('}')) && tail.count(QLatin1Char('}')) == 1))
-            return ::testing::AssertionSuccess();
-    }
-    return ::testing::AssertionFailure() << declaration.toStdString() << " is not last";
-}
-} // namespace
-
-// Random sheets (bytes, CSS-like fragments with braces anywhere, very long
-// ones) and extreme values. The seed is fixed so that a failure replays;
-// COMMONUI_FUZZ_SEED and COMMONUI_FUZZ_ROUNDS choose others.
-TEST(StyleSheetRewriting, AnySheetAndValueKeepsEachRulesDeclarationLast)
-{
-    const unsigned seed = EnvironmentNumber("COMMONUI_FUZZ_SEED", 20240611u);
-    SCOPED_TRACE(::testing::Message() << "COMMONUI_FUZZ_SEED=" << seed);
-    std::mt19937 random(seed);
-    const auto between = [&random](int low, int high) {
-        return std::uniform_int_distribution<int>(low, high)(random);
-    };
-    const QtMessageHandler previous =
-        qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
-
-    static const char* const pieces[] = {
-        "{",         "}",      "}}",     ";",           ":",          " ",      "\n",         "border",
-        "-width",    "-style", "-color", "border-left", "background", "-color", "text-align", "font-weight",
-        "font-size", "QLabel", "#",      "0",           "1",          "9",      "px",         "solid",
-        "bold",      "left",   "/*",     "*/",          "\"",         "\\",     "-1",         "\xe9"};
-    const auto sheet = [&]() {
-        QString text;
-        if (between(0, 4) == 0) { // random bytes, sometimes broken UTF-8
-            QByteArray bytes(between(0, 300), '\0');
-            for (char& byte : bytes)
-                byte = char(between(0, 255));
-            return between(0, 1) ? QString::fromLatin1(bytes) : QString::fromUtf8(bytes);
-        }
-        for (int i = between(0, between(0, 20) == 0 ? 10000 : 60); i > 0; --i)
-            text += QString::fromLatin1(pieces[between(0, int(std::size(pieces)) - 1)]);
-        return text;
-    };
-    const float inf = std::numeric_limits<float>::infinity();
-    const float widths[] = {
-        std::numeric_limits<float>::quiet_NaN(), inf, -inf, 1e30f, -1.5f, 0.0f, 2.0f, 7.25f};
-    const int numbers[] = {INT_MIN, INT_MAX, -300, -1, 0, 9, 10, 255, 256, 600};
-
-    CKyUILabel label;
-    CKyUIPushButton button;
-    for (unsigned round = 0, rounds = EnvironmentNumber("COMMONUI_FUZZ_ROUNDS", 400u); round < rounds;
-         ++round) {
-        const bool onLabel = between(0, 1);
-        CKyUIBaseView& view = onLabel ? static_cast<CKyUIBaseView&>(label) : button;
-        auto* widget = qobject_cast<QWidget*>(view.getHandle());
-        widget->setStyleSheet(sheet());
-        // A few rules in a row, so that they meet each other's declarations.
-        for (int step = between(1, 4); step > 0; --step) {
-            const float w = widths[between(0, int(std::size(widths)) - 1)];
-            const int n = numbers[between(0, int(std::size(numbers)) - 1)];
-            const bool bold = between(0, 1);
-            const QString before = widget->styleSheet();
-            QString declaration;
-            const int rule = between(0, 4);
-            if (rule == 0) {
-                view.setBorderWidth(w);
-                declaration = QStringLiteral("border-style:solid;border-width:%1px;").arg(double(w));
-            } else if (rule == 1) {
-                view.setBorderColor(n, 0, 255);
-                QColor color;
-                color.setRgb(n, 0, 255); // out of range: the toolkit's invalid colour
-                declaration = QStringLiteral("border-color: %1;").arg(color.name());
-            } else if (rule == 2) {
-                const QColor color(QRgb(unsigned(n) & 0xffffffu));
-                view.setPalette(PaletteWith(QPalette::Base, color));
-                declaration = QStringLiteral("background-color: %1;").arg(color.name());
-            } else if (rule == 3) {
-                onLabel ? label.setBoldText(bold) : button.setBoldText(bold);
-                declaration =
-                    bold ? QStringLiteral("font-weight: bold;") : QStringLiteral("font-weight: normal;");
-            } else if (onLabel) {
-                label.setFontSize(n);
-                declaration = QStringLiteral("font-size:%1px;").arg(n);
-            } else {
-                static const char* const names[] = {"left", "right", "center"};
-                const int alignment = between(0, 2);
-                button.setTextAlignment(CKyUIPushButton::TextAlignment(alignment));
-                declaration = QStringLiteral("text-align:%1;").arg(QLatin1String(names[alignment]));
-            }
-            ASSERT_TRUE(DeclarationStandsLast(before, widget->styleSheet(), declaration))
-                << "round " << round << ", sheet before: " << before.left(200).toStdString();
-        }
-    }
-    qInstallMessageHandler(previous);
 }
 
 // Rewriting the sheet later, and the polish that follows, keep that colour.
