@@ -5,9 +5,7 @@
 
 CKyUIAction::CKyUIAction()
 {
-    auto* impl = new CKyUIActionImpl(this);
-    setImpl(impl);
-    impl->CreateFrontendControl();
+    createImpl<CKyUIActionImpl>(this);
 }
 
 CKyUIAction::~CKyUIAction()

@@ -52,6 +52,8 @@ void CKyUIBaseView::addView(CKyUIBaseView* view, float stretch)
     if (!impl() && getHandle())
         setImpl(new CKyUIBaseViewImpl(this));
     Forward(implAs<CKyUIBaseViewImpl>(), &CKyUIBaseViewImpl::AddViewImpl, view, stretch);
+    if (isInteractive())
+        SetInteractiveTree(view, true);
 }
 
 void CKyUIBaseView::insertView(CKyUIBaseView* view, int index, float stretch)
@@ -64,6 +66,8 @@ void CKyUIBaseView::insertView(CKyUIBaseView* view, int index, float stretch)
     if (!impl() && getHandle())
         setImpl(new CKyUIBaseViewImpl(this));
     Forward(implAs<CKyUIBaseViewImpl>(), &CKyUIBaseViewImpl::InsertViewImpl, view, index, stretch);
+    if (isInteractive())
+        SetInteractiveTree(view, true);
 }
 
 void CKyUIBaseView::removeView(CKyUIBaseView* view)

@@ -4,9 +4,7 @@
 
 CKyUICheckBox::CKyUICheckBox()
 {
-    auto* impl = new CKyUICheckBoxImpl(this);
-    setImpl(impl);
-    impl->CreateFrontendControl();
+    createImpl<CKyUICheckBoxImpl>(this);
 }
 
 CKyUICheckBox::~CKyUICheckBox() = default;

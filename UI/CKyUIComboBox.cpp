@@ -4,9 +4,7 @@
 
 CKyUIComboBox::CKyUIComboBox()
 {
-    auto* impl = new CKyUIComboBoxImpl(this);
-    setImpl(impl);
-    impl->CreateFrontendControl();
+    createImpl<CKyUIComboBoxImpl>(this);
     setEditable(false);
 }
 

@@ -4,9 +4,7 @@
 
 CKyUIDockWidget::CKyUIDockWidget(int area)
 {
-    auto* impl = new CKyUIDockWidgetImpl(this);
-    setImpl(impl);
-    impl->CreateFrontendControl();
+    auto* impl = createImpl<CKyUIDockWidgetImpl>(this);
     impl->SetArea(area);
 }
 

@@ -4,9 +4,7 @@
 
 CKyUIGroupBox::CKyUIGroupBox(Orientation orientation, bool useMargin)
 {
-    auto* impl = new CKyUIGroupBoxImpl(this, orientation);
-    setImpl(impl);
-    impl->CreateFrontendControl();
+    createImpl<CKyUIGroupBoxImpl>(this, orientation);
     UseMargin(useMargin);
 }
 

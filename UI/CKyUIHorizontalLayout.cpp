@@ -4,9 +4,7 @@
 
 CKyUIHorizontalLayout::CKyUIHorizontalLayout()
 {
-    auto* impl = new CKyUIHorizontalLayoutImpl(this);
-    setImpl(impl);
-    impl->CreateFrontendControl();
+    createImpl<CKyUIHorizontalLayoutImpl>(this);
     UseMargin(false);
 }
 

@@ -5,9 +5,7 @@
 
 CKyUIImageView::CKyUIImageView()
 {
-    auto* impl = new CKyUIImageViewImpl(this);
-    setImpl(impl);
-    impl->CreateFrontendControl();
+    createImpl<CKyUIImageViewImpl>(this);
 }
 
 CKyUIImageView::~CKyUIImageView() = default;

@@ -4,9 +4,7 @@
 
 CKyUILabel::CKyUILabel()
 {
-    auto* impl = new CKyUILabelImpl(this);
-    setImpl(impl);
-    impl->CreateFrontendControl();
+    createImpl<CKyUILabelImpl>(this);
 }
 
 CKyUILabel::~CKyUILabel() = default;

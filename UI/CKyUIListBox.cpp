@@ -4,9 +4,7 @@
 
 CKyUIListBox::CKyUIListBox()
 {
-    auto* impl = new CKyUIListBoxImpl(this);
-    setImpl(impl);
-    impl->CreateFrontendControl();
+    createImpl<CKyUIListBoxImpl>(this);
 }
 
 CKyUIListBox::~CKyUIListBox() = default;

@@ -5,9 +5,7 @@
 
 CKyUIMenu::CKyUIMenu()
 {
-    auto* impl = new CKyUIMenuImpl(this);
-    setImpl(impl);
-    impl->CreateFrontendControl();
+    createImpl<CKyUIMenuImpl>(this);
 }
 
 CKyUIMenu::~CKyUIMenu()

@@ -3,10 +3,16 @@
 #include "UI/Impl/CKyUIObjectData.h"
 #include "UI/Impl/CKyUIObjectImpl.h"
 
+namespace
+{
+bool g_defaultInteractive = false;
+} // namespace
+
 CKyUIObject::CKyUIObject()
     : m_impl(nullptr)
     , m_data(new CKyUIObjectData)
 {
+    m_data->interactive = g_defaultInteractive;
 }
 
 CKyUIObject::~CKyUIObject()
@@ -107,6 +113,35 @@ void CKyUIObject::blockSignals(bool block)
 bool CKyUIObject::signalsBlocked() const
 {
     return m_data->signalsBlocked;
+}
+
+void CKyUIObject::setInteractive(bool interactive)
+{
+    m_data->interactive = interactive;
+    if (m_impl)
+        m_impl->SetInteractiveImpl(interactive);
+}
+
+bool CKyUIObject::isInteractive() const
+{
+    return m_data->interactive;
+}
+
+void CKyUIObject::setDefaultInteractive(bool interactive)
+{
+    g_defaultInteractive = interactive;
+}
+
+bool CKyUIObject::defaultInteractive()
+{
+    return g_defaultInteractive;
+}
+
+void CKyUIObject::startInteractive()
+{
+    // Off is where every implementation starts: nothing to undo.
+    if (m_impl && m_data->interactive)
+        m_impl->SetInteractiveImpl(true);
 }
 
 CKyUIObjectImpl* CKyUIObject::impl() const

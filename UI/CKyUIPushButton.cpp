@@ -4,9 +4,7 @@
 
 CKyUIPushButton::CKyUIPushButton()
 {
-    auto* impl = new CKyUIPushButtonImpl(this);
-    setImpl(impl);
-    impl->CreateFrontendControl();
+    createImpl<CKyUIPushButtonImpl>(this);
 }
 
 CKyUIPushButton::~CKyUIPushButton() = default;

@@ -4,9 +4,7 @@
 
 CKyUIRadioButton::CKyUIRadioButton()
 {
-    auto* impl = new CKyUIRadioButtonImpl(this);
-    setImpl(impl);
-    impl->CreateFrontendControl();
+    createImpl<CKyUIRadioButtonImpl>(this);
 }
 
 CKyUIRadioButton::~CKyUIRadioButton() = default;

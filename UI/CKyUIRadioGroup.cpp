@@ -4,9 +4,7 @@
 
 CKyUIRadioGroup::CKyUIRadioGroup()
 {
-    auto* impl = new CKyUIRadioGroupImpl(this);
-    setImpl(impl);
-    impl->CreateFrontendControl();
+    createImpl<CKyUIRadioGroupImpl>(this);
 }
 
 CKyUIRadioGroup::~CKyUIRadioGroup() = default;

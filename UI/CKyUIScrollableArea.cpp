@@ -4,9 +4,7 @@
 
 CKyUIScrollableArea::CKyUIScrollableArea()
 {
-    auto* impl = new CKyUIScrollableAreaImpl(this);
-    setImpl(impl);
-    impl->CreateFrontendControl();
+    createImpl<CKyUIScrollableAreaImpl>(this);
 }
 
 CKyUIScrollableArea::~CKyUIScrollableArea() = default;

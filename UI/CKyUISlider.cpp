@@ -4,9 +4,7 @@
 
 CKyUISlider::CKyUISlider()
 {
-    auto* impl = new CKyUISliderImpl(this);
-    setImpl(impl);
-    impl->CreateFrontendControl();
+    createImpl<CKyUISliderImpl>(this);
 }
 
 CKyUISlider::~CKyUISlider() = default;

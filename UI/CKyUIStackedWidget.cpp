@@ -4,9 +4,7 @@
 
 CKyUIStackedWidget::CKyUIStackedWidget()
 {
-    auto* impl = new CKyUIStackedWidgetImpl(this);
-    setImpl(impl);
-    impl->CreateFrontendControl();
+    createImpl<CKyUIStackedWidgetImpl>(this);
 }
 
 CKyUIStackedWidget::~CKyUIStackedWidget() = default;

@@ -4,9 +4,7 @@
 
 CKyUITextEdit::CKyUITextEdit(_Size size)
 {
-    auto* impl = new CKyUITextEditImpl(this);
-    setImpl(impl);
-    impl->CreateFrontendControl();
+    auto* impl = createImpl<CKyUITextEditImpl>(this);
     impl->SetPreferableSize(CKyUITextEditImpl::WidthFor(size), -1);
 }
 

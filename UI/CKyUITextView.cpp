@@ -4,9 +4,7 @@
 
 CKyUITextView::CKyUITextView()
 {
-    auto* impl = new CKyUITextViewImpl(this);
-    setImpl(impl);
-    impl->CreateFrontendControl();
+    createImpl<CKyUITextViewImpl>(this);
 }
 
 CKyUITextView::~CKyUITextView() = default;

@@ -4,9 +4,7 @@
 
 CKyUIVerticalLayout::CKyUIVerticalLayout()
 {
-    auto* impl = new CKyUIVerticalLayoutImpl(this);
-    setImpl(impl);
-    impl->CreateFrontendControl();
+    createImpl<CKyUIVerticalLayoutImpl>(this);
     UseMargin(false);
 }
 
@@ -32,6 +30,4 @@ void CKyUIVerticalLayout::setSpacing(int spacing)
     implAs<CKyUIBoxLayoutImpl>()->SetSpacingImpl(spacing);
 }
 
-void CKyUIVerticalLayout::setSizeConstraint(QLayout::SizeConstraint)
-{
-}
+void CKyUIVerticalLayout::setSizeConstraint(QLayout::SizeConstraint) {}

@@ -1,6 +1,7 @@
 #include "UI/Impl/CKyUIDialogImpl.h"
 
 #include "UI/CKyUIDialog.h"
+#include "UI/CKyUIVerticalLayout.h"
 
 #include "KyHostKernel.h"
 
@@ -57,6 +58,15 @@ bool CKyUIDialogImpl::DefaultReleasesToolkitDialog()
     return g_defaultReleasesToolkitDialog;
 }
 
+void CKyUIDialogImpl::SetInteractiveImpl(bool interactive)
+{
+    CKyUIObjectImpl::SetInteractiveImpl(interactive);
+    SetInteractiveTree(m_rootLayout, interactive);
+    const QList<CKyUIObject*> children = owner()->children();
+    for (CKyUIObject* child : children)
+        SetInteractiveTree(child, interactive);
+}
+
 int CKyUIDialogImpl::Exec(bool modal)
 {
     // SetupUI() and the slots of the run may delete the dialog.
@@ -65,6 +75,9 @@ int CKyUIDialogImpl::Exec(bool modal)
     SetupUIImpl(nullptr);
     if (!lifetime.Alive())
         return 0;
+    // Views made by SetupUI() outside the root layout's tree follow as well.
+    if (owner()->isInteractive())
+        SetInteractiveImpl(true);
     const int result = ExecImpl(modal);
     if (!lifetime.Alive())
         return result;

@@ -37,6 +37,8 @@ public:
     bool ReleasesToolkitDialog() const { return m_releasesToolkitDialog; }
     static void SetDefaultReleasesToolkitDialog(bool release);
     static bool DefaultReleasesToolkitDialog();
+    // Hands the switch on to the dialog's tree: its root layout and children.
+    void SetInteractiveImpl(bool interactive) override;
 
     // No toolkit signal is connected to these; client code may call them.
     void OnAccepted();

@@ -21,6 +21,7 @@ public:
     QPointer<QObject> handle;
     QString objectName;
     bool signalsBlocked = false;
+    bool interactive = false;      // follows its user; see CKyUIObject::setInteractive
     CKyUIObject* sender = nullptr; // meaningful only while an emit scope is active
     CKyUIObject* parent = nullptr; // not owned
     QList<CKyUIObject*> children;  // owned, in attachment order; each at most once

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <QtCore/QMetaObject>
 #include <QtCore/QString>
 #include <QtCore/QVariant>
 
 #include <memory>
 #include <utility>
+#include <vector>
 
 class CKyUIObject;
 
@@ -23,6 +25,12 @@ public:
     virtual void CreateFrontendControl();
     virtual void SetObjectNameImpl(const QString& name);
     virtual bool SetPropertyImpl(const char* name, const QVariant& value);
+
+    // Makes the toolkit object follow its user, or only the program. The base
+    // drops every user-input link; an override calls it first, then, when
+    // switched on, links what its user does (LinkUserInput) and applies what
+    // the inert path only stored.
+    virtual void SetInteractiveImpl(bool interactive);
 
     CKyUIObject* owner() const { return m_owner; }
 
@@ -52,8 +60,7 @@ public:
     // Runs the emissions in order and stops as soon as one of their slots has
     // deleted this object; answers whether it survived them all. Meanwhile it
     // counts as a report under way (see IsReporting).
-    template <typename... Emissions>
-    bool EmitInOrder(Emissions&&... emissions) const
+    template <typename... Emissions> bool EmitInOrder(Emissions&&... emissions) const
     {
         const Reporting reporting(m_lifetime);
         const Lifetime& lifetime = reporting.lifetime;
@@ -64,7 +71,15 @@ public:
     // tells that one of the slots called is what deletes the object.
     bool IsReporting() const { return m_lifetime->reporting > 0; }
 
+protected:
+    // Keeps a toolkit connection that exists only while the owner follows its
+    // user. Dropped when the switch goes off and when this object goes: the
+    // widget may outlive it until its deferred deletion.
+    void LinkUserInput(const QMetaObject::Connection& link) { m_userInputLinks.push_back(link); }
+
 private:
+    void UnlinkUserInput();
+
     struct Reporting
     {
         explicit Reporting(const std::shared_ptr<Lifetime::State>& state)
@@ -78,4 +93,9 @@ private:
 
     CKyUIObject* const m_owner;
     const std::shared_ptr<Lifetime::State> m_lifetime = std::make_shared<Lifetime::State>();
+    std::vector<QMetaObject::Connection> m_userInputLinks;
 };
+
+// Sets the switch on an object and on every object below it in the public
+// tree, parents before their children.
+void SetInteractiveTree(CKyUIObject* root, bool interactive);

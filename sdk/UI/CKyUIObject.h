@@ -91,6 +91,33 @@ public:
     /// Whether the object's signals are blocked.
     bool signalsBlocked() const;
 
+    /// Makes the object follow its user (true) or only the program (false).
+    ///
+    /// Off, the library is driven from the program's side only: several
+    /// controls deliberately ignore what their user does (a check box click is
+    /// not reported, a list box draws no items, a dialog closed with Escape
+    /// reports nothing; see the behaviours guide). On, every such path does
+    /// what a toolkit developer expects: user input reaches the stored state
+    /// and the signals, and the operations that are otherwise inert take
+    /// effect. Switching off again restores the inert behaviour from the next
+    /// user action on.
+    ///
+    /// On a dialog the value reaches its whole tree: every view in it when
+    /// exec() starts, and every view added to it later, so one call per dialog
+    /// is enough. A view added to an interactive container becomes interactive
+    /// too, with its own children.
+    void setInteractive(bool interactive);
+    /// Whether the object follows its user; false unless set (see
+    /// setDefaultInteractive()).
+    bool isInteractive() const;
+    /// The value that objects created from now on start with; false unless
+    /// set. It is process-wide: meant for a host, or for a plug-in that has
+    /// the process to itself. Plug-ins that share a host set the switch per
+    /// dialog instead.
+    static void setDefaultInteractive(bool interactive);
+    /// The value new objects start with.
+    static bool defaultInteractive();
+
     /// The implementation object; for the library's own use.
     CKyUIObjectImpl* impl() const;
 
@@ -99,15 +126,25 @@ protected:
     /// constructors.
     void setImpl(CKyUIObjectImpl* impl);
 
-    /// The implementation as the concrete class's own type, which the concrete
-    /// class knows it created.
-    template <class Impl>
-    Impl* implAs() const
+    /// Creates the concrete class's implementation with @p self (this object,
+    /// as its own class) as owner, takes ownership of it and lets it create its
+    /// toolkit object; then an object that starts interactive is made so.
+    template <class Impl, class Self, class... Args> Impl* createImpl(Self* self, Args&&... args)
     {
-        return static_cast<Impl*>(impl());
+        auto* created = new Impl(self, static_cast<Args&&>(args)...);
+        setImpl(created);
+        created->CreateFrontendControl();
+        startInteractive();
+        return created;
     }
 
+    /// The implementation as the concrete class's own type, which the concrete
+    /// class knows it created.
+    template <class Impl> Impl* implAs() const { return static_cast<Impl*>(impl()); }
+
 private:
+    void startInteractive();
+
     CKyUIObjectImpl* m_impl;
     CKyUIObjectData* m_data;
 };

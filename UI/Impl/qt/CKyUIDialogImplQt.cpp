@@ -85,6 +85,9 @@ void CKyUIDialogImpl::SetupUIImpl(QObject*)
     // A second exec() replaces the root layout object without deleting it.
     m_rootLayout = new CKyUIVerticalLayout;
     m_rootLayout->setObjectName(QStringLiteral("main_layout"));
+    // Before SetupUI(), so that every view it adds inherits the switch.
+    if (owner()->isInteractive())
+        m_rootLayout->setInteractive(true);
     m_boxLayout = boxLayout;
 
     boxLayout->setContentsMargins(0, 0, 0, 0);

@@ -16,3 +16,10 @@ bool CKyUIObjectImpl::SetPropertyImpl(const char* name, const QVariant& value)
         return false;
     return handle->setProperty(name, value);
 }
+
+void CKyUIObjectImpl::UnlinkUserInput()
+{
+    for (const QMetaObject::Connection& link : m_userInputLinks)
+        QObject::disconnect(link);
+    m_userInputLinks.clear();
+}
