@@ -16,6 +16,9 @@
 // the same style sheet and an empty QVBoxLayout. Whole: the set-up followed
 // by the 200 controls and the button box, against the same in Qt.
 //
+// In the content benchmark, commonui_interactive builds the library's side
+// with every control following its user (the interactive switch on).
+//
 // A third side, qt_with_empty_rules, builds the plain Qt widgets but gives each
 // at creation the empty rule of its class ("QLabel { }", ...) that the library
 // gives its widgets: it shows what those rules alone cost in Qt. The sides
@@ -237,9 +240,11 @@ void DropHost()
     BenchHost::FlushPostedEvents();
 }
 
-void ContentWithLibrary()
+// `interactive`: every control follows its user, as in a dialog switched on.
+void ContentWithLibrary(bool interactive)
 {
     auto* root = new CKyUIVerticalLayout;
+    root->setInteractive(interactive);
     g_host->layout()->addWidget(qobject_cast<QWidget*>(root->getHandle()));
     FillWithLibrary(root);
     g_host->dialog()->adjustSize();
@@ -262,7 +267,8 @@ void ContentWithQt(bool ownSheets)
 void Content(benchmark::State& state)
 {
     Paired::Compare(state, Paired::Clock::Thread, 20, 1,
-                    {{"commonui", ContentWithLibrary, NewHost, DropHost},
+                    {{"commonui", [] { ContentWithLibrary(false); }, NewHost, DropHost},
+                     {"commonui_interactive", [] { ContentWithLibrary(true); }, NewHost, DropHost},
                      {"qt", [] { ContentWithQt(false); }, NewHost, DropHost},
                      {"qt_with_empty_rules", [] { ContentWithQt(true); }, NewHost, DropHost}},
                     "qt");
