@@ -22,23 +22,21 @@ GUID = b"258EAFA5-E914-47DA-95CA-C5AB0DC85B11"
 async def serve(reader, writer):
     try:
         head = await reader.readuntil(b"\r\n\r\n")
-    except (asyncio.IncompleteReadError, asyncio.LimitOverrunError):
-        writer.close()
-        return
-    lines = re.split(rb"\r\n|\n|\r", head[:-4])[1:]
-    print(" ".join(line.hex() for line in lines), flush=True)
-    key = next((line.split(b":", 1)[1].strip() for line in lines
-                if line.lower().startswith(b"sec-websocket-key:")), None)
-    if key is None:
-        writer.write(b"HTTP/1.1 200 OK\r\nContent-Length: 0\r\nConnection: close\r\n\r\n")
+        lines = re.split(rb"\r\n|\n|\r", head[:-4])[1:]
+        print(" ".join(line.hex() for line in lines), flush=True)
+        key = next((line.split(b":", 1)[1].strip() for line in lines
+                    if line.lower().startswith(b"sec-websocket-key:")), None)
+        if key is None:
+            writer.write(b"HTTP/1.1 200 OK\r\nContent-Length: 0\r\nConnection: close\r\n\r\n")
+        else:
+            accept = base64.b64encode(hashlib.sha1(key + GUID).digest())
+            writer.write(b"HTTP/1.1 101 Switching Protocols\r\nUpgrade: websocket\r\nConnection: Upgrade\r\n"
+                         b"Sec-WebSocket-Accept: " + accept + b"\r\n\r\n")
+            await writer.drain()
+            await reader.read()
         await writer.drain()
-        writer.close()
-        return
-    accept = base64.b64encode(hashlib.sha1(key + GUID).digest())
-    writer.write(b"HTTP/1.1 101 Switching Protocols\r\nUpgrade: websocket\r\nConnection: Upgrade\r\n"
-                 b"Sec-WebSocket-Accept: " + accept + b"\r\n\r\n")
-    await writer.drain()
-    await reader.read()
+    except (OSError, asyncio.IncompleteReadError, asyncio.LimitOverrunError):
+        pass  # the client may leave as soon as it has sent its request
     writer.close()
 
 
