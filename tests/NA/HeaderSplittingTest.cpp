@@ -95,14 +95,10 @@ TEST(HeaderSplitting, ARefusedHeaderNeverReachesTheWireAndValidOnesArriveAsGiven
          "CR, LF or NUL"},
         {[](R& r) { r.setRawHeader("X A", "1"); },
          "CKyNANetworkRequest::setRawHeader: header \"X\\x20A\" not set: the name is not a token"},
-        {[](R& r) { r.setRawHeader("X-\xc3\xa9", "1"); },
-         "CKyNANetworkRequest::setRawHeader: header \"X-\\xc3\\xa9\" not set: the name is not a token"},
         {[](R& r) { r.setRawHeader("", "1"); },
          "CKyNANetworkRequest::setRawHeader: header \"\" not set: the name is not a token"},
         {[](R& r) { r.setHeader(R::UserAgentHeader, QStringLiteral("a\nInjected: b")); },
          "CKyNANetworkRequest::setHeader: header \"User-Agent\" not set: the value holds CR, LF or NUL"},
-        {[](R& r) { r.setHeader(R::ContentTypeHeader, QByteArray("a\r\nInjected: b")); },
-         "CKyNANetworkRequest::setHeader: header \"Content-Type\" not set: the value holds CR, LF or NUL"},
         {[](R& r) {
              const QList<QNetworkCookie> cookies{QNetworkCookie("c", "1\r\nInjected: b")};
              r.setHeader(R::CookieHeader, QVariant::fromValue(cookies));
