@@ -1,5 +1,7 @@
 #include "NA/Impl/CKyNANetworkRequestImpl.h"
 
+#include "NA/Impl/KyHeaderCheck.h"
+
 CKyNANetworkRequestImpl::CKyNANetworkRequestImpl(CKyNANetworkRequest* owner, const QUrl& url)
     : m_owner(owner)
 {
@@ -25,8 +27,11 @@ void CKyNANetworkRequestImpl::setUrl(const QUrl& url)
 
 void CKyNANetworkRequestImpl::setHeader(CKyNANetworkRequest::KnownHeaders header, const QVariant& value)
 {
+    // Only the toolkit knows the bytes a value becomes, so it checks them
+    // before anything is kept.
+    if (!SetHeaderImpl(header, value))
+        return;
     m_knownHeaders[int(header)] = value;
-    SetHeaderImpl(header, value);
 }
 
 QVariant CKyNANetworkRequestImpl::header(CKyNANetworkRequest::KnownHeaders header) const
@@ -36,6 +41,8 @@ QVariant CKyNANetworkRequestImpl::header(CKyNANetworkRequest::KnownHeaders heade
 
 void CKyNANetworkRequestImpl::setRawHeader(const QByteArray& name, const QByteArray& value)
 {
+    if (KyHeaderCheck::Refuse("CKyNANetworkRequest::setRawHeader", name, value))
+        return;
     m_rawHeaders[name] = value;
     SetRawHeaderImpl(name, value);
 }

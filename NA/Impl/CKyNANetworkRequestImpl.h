@@ -59,7 +59,8 @@ public:
     void CreateNetworkRequestImpl(const QUrl& url);
     void DestroyNetworkRequestImpl();
     void SetUrlImpl(const QUrl& url);
-    void SetHeaderImpl(CKyNANetworkRequest::KnownHeaders header, const QVariant& value);
+    // False, and nothing changed, when the bytes the value becomes are refused.
+    bool SetHeaderImpl(CKyNANetworkRequest::KnownHeaders header, const QVariant& value);
     void SetRawHeaderImpl(const QByteArray& name, const QByteArray& value);
     void SetSslConfigurationImpl();
     void SetRedirectPolicyImpl();

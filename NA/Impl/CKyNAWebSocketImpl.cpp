@@ -1,5 +1,7 @@
 #include "NA/Impl/CKyNAWebSocketImpl.h"
 
+#include "NA/Impl/KyHeaderCheck.h"
+
 CKyNAWebSocketImpl::CKyNAWebSocketImpl(CKyNAWebSocket* owner, const QString& origin,
                                        CKyNAWebSocketProtocol::Version version)
     : CKyUIObjectImpl(owner)
@@ -10,7 +12,10 @@ CKyNAWebSocketImpl::CKyNAWebSocketImpl(CKyNAWebSocket* owner, const QString& ori
     , sslErrors(owner)
     , pong(owner)
 {
-    CreateWebSocketImpl(origin, version);
+    // The origin travels as a header of the opening request: one that would
+    // split it is not announced at all.
+    const bool refused = KyHeaderCheck::Refuse("CKyNAWebSocket", "Origin", origin.toUtf8());
+    CreateWebSocketImpl(refused ? QString() : origin, version);
 }
 
 CKyNAWebSocketImpl::~CKyNAWebSocketImpl()

@@ -115,7 +115,13 @@ int main(int argc, char** argv)
         const int colon = header.indexOf(QLatin1Char(':'));
         if (colon <= 0)
             return usageError(parser, QStringLiteral("a header reads 'Name: value': %1").arg(header));
-        request.setRawHeader(header.left(colon).trimmed().toUtf8(), header.mid(colon + 1).trimmed().toUtf8());
+        const QByteArray name = header.left(colon).trimmed().toUtf8();
+        const QByteArray value = header.mid(colon + 1).trimmed().toUtf8();
+        // The library refuses a header that could split the request and says why.
+        request.setRawHeader(name, value);
+        if (request.rawHeader(name) != QVariant(value))
+            return usageError(parser, QStringLiteral("refused header: a name is a token, and neither name "
+                                                     "nor value may hold CR, LF or NUL"));
     }
     if (parser.isSet(cacertOption)) {
         const QList<QSslCertificate> authorities = QSslCertificate::fromPath(parser.value(cacertOption));

@@ -99,13 +99,17 @@ public:
     /// Stores the URL and writes it into the toolkit request.
     void setUrl(const QUrl& url);
 
-    /// Sets (or replaces) a known header, also in the toolkit request.
+    /// Sets (or replaces) a known header, also in the toolkit request. A value
+    /// whose bytes on the wire would hold CR, LF or NUL is refused like a raw
+    /// header (see setRawHeader()).
     void setHeader(KnownHeaders header, const QVariant& value);
     /// The value set for the header, or an invalid QVariant.
     QVariant header(KnownHeaders header) const;
 
     /// Sets (or replaces) the header, also in the toolkit request. Names match
-    /// exactly, case included.
+    /// exactly, case included. A name that is not a token, or a name or value
+    /// holding CR, LF or NUL, would split the request: such a header is never
+    /// sent, the request stays as it was and one warning says why.
     void setRawHeader(const QByteArray& name, const QByteArray& value);
     /// A QVariant holding the value as a QByteArray, or an invalid QVariant
     /// when no header of exactly this name was set.

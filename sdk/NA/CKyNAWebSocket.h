@@ -40,7 +40,9 @@ class COMMONUI_EXPORT CKyNAWebSocket : public CKyUIObject
 {
 public:
     /// A closed socket that announces @p origin and speaks @p version of the
-    /// protocol (CKyNAWebSocketProtocol::VersionLatest in practice).
+    /// protocol (CKyNAWebSocketProtocol::VersionLatest in practice). An origin
+    /// holding CR, LF or NUL would split the opening request: it is not
+    /// announced at all, and one warning says why.
     CKyNAWebSocket(const QString& origin, CKyNAWebSocketProtocol::Version version);
     /// Deletes the toolkit socket at once; it may still report disconnected()
     /// while doing so.

@@ -1,5 +1,7 @@
 #include "NA/Impl/CKyNANetworkRequestImpl.h"
 
+#include "NA/Impl/KyHeaderCheck.h"
+
 #include <QtNetwork/QNetworkRequest>
 #include <QtNetwork/QSslConfiguration>
 
@@ -50,10 +52,23 @@ void CKyNANetworkRequestImpl::SetUrlImpl(const QUrl& url)
         request->setUrl(url);
 }
 
-void CKyNANetworkRequestImpl::SetHeaderImpl(CKyNANetworkRequest::KnownHeaders header, const QVariant& value)
+bool CKyNANetworkRequestImpl::SetHeaderImpl(CKyNANetworkRequest::KnownHeaders header, const QVariant& value)
 {
-    if (QNetworkRequest* request = m_owner->getHandle())
-        request->setHeader(QNetworkRequest::KnownHeaders(header), value);
+    QNetworkRequest* request = m_owner->getHandle();
+    if (!request)
+        return true;
+    // Tried on a copy: the bytes are known only once the toolkit has converted
+    // the value, under whatever name it gives the code.
+    QNetworkRequest candidate(*request);
+    candidate.setHeader(QNetworkRequest::KnownHeaders(header), value);
+    for (const QByteArray& name : candidate.rawHeaderList()) {
+        const QByteArray bytes = candidate.rawHeader(name);
+        if (bytes != request->rawHeader(name) &&
+            KyHeaderCheck::Refuse("CKyNANetworkRequest::setHeader", name, bytes))
+            return false;
+    }
+    *request = candidate;
+    return true;
 }
 
 void CKyNANetworkRequestImpl::SetRawHeaderImpl(const QByteArray& name, const QByteArray& value)
