@@ -73,17 +73,6 @@ TEST_F(WebSocket, ClosingWithNormalCodeLeadsToDisconnected)
     EXPECT_EQ(server.peerCloseReason(), QStringLiteral("done here"));
 }
 
-TEST_F(WebSocket, ServerClosingWithACodeLeadsToDisconnected)
-{
-    ASSERT_TRUE(openOnServer());
-    server.peer()->close(QWebSocketProtocol::CloseCodeGoingAway, QStringLiteral("bye"));
-    ASSERT_TRUE(waitUntil([this] { return recorder.has(QStringLiteral("disconnected")); }));
-    auto* toolkit = qobject_cast<QWebSocket*>(socket.getHandle());
-    ASSERT_TRUE(toolkit);
-    EXPECT_EQ(toolkit->closeCode(), QWebSocketProtocol::CloseCodeGoingAway);
-    EXPECT_EQ(recorder.count(QStringLiteral("error")), 0);
-}
-
 TEST_F(WebSocket, UrlThatIsNoWebSocketReportsAnErrorAndNeverConnects)
 {
     // A wrong scheme is refused inside open() itself.
@@ -129,48 +118,4 @@ TEST_F(WebSocket, DeletingAConnectedSocketWhileMessagesFlowReachesNothingFreed)
     ASSERT_TRUE(waitUntil([this] { return server.disconnections() == 1; }));
     flood.stop();
     EXPECT_EQ(log.lines, entries);
-}
-
-// A plug-in may delete the socket from inside one of the socket's own slots:
-// the toolkit socket is then still in the middle of reporting.
-TEST_F(WebSocket, DeletingTheSocketFromItsOwnSlotsReachesNothingFreed)
-{
-    for (const char* slot : {"textMessageReceived", "disconnected", "error"}) {
-        SCOPED_TRACE(slot);
-        const QByteArray which(slot);
-        Recorder log;
-        auto* owned = new CKyNAWebSocket(QString(), CKyNAWebSocketProtocol::VersionLatest);
-        QPointer<QObject> toolkit = owned->getHandle();
-        bool deleted = false;
-        log.on(owned->connected(), "connected");
-        const auto deleteSocket = [owned, &deleted] {
-            bool* const done = &deleted;
-            delete owned;
-            *done = true;
-        };
-        if (which == "textMessageReceived") {
-            owned->textMessageReceived().connect([deleteSocket](const QString&) { deleteSocket(); });
-            log.on(owned->textMessageReceived(), "text"); // after the deleting slot
-        } else if (which == "disconnected") {
-            owned->disconnected().connect(deleteSocket);
-        } else {
-            owned->error().connect([deleteSocket](int) { deleteSocket(); });
-        }
-        owned->open(CKyNANetworkRequest(server.url()));
-        ASSERT_TRUE(waitUntil([&] { return log.has("connected") && server.peer(); }));
-
-        // Several messages in one burst, so that the toolkit still has some to
-        // hand out after the first.
-        for (int i = 0; i < 20; ++i)
-            server.peer()->sendTextMessage(QStringLiteral("message"));
-        if (which != "textMessageReceived")
-            server.peer()->abort();
-        ASSERT_TRUE(waitUntil([&] { return deleted; }));
-        EXPECT_EQ(log.count("text"), 0);
-        // Whatever the toolkit socket still had to do, it does without us.
-        ASSERT_TRUE(waitUntil([&] {
-            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-            return toolkit.isNull();
-        }));
-    }
 }
