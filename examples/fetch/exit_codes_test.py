@@ -67,6 +67,7 @@ def main():
         ([ws + "/close/4001/bye"], 1, "close: 4001 bye"),
         ([raw], 1, "close: 1006 "),
         ([f"ws://127.0.0.1:{closed_port}/"], 1, "fetch: web socket error 0"),
+        ([ws + "/echo", "--ping", "soon"], 2, "fetch: --ping takes a positive whole number"),
     ]
     failed = 0
     for arguments, code, line in rows:

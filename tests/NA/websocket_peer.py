@@ -12,6 +12,7 @@ picks what it does:
   /close/CODE/REASON closes at once with CODE and the URL-decoded REASON
   /close             closes at once with a close frame that carries no code
   /frozen            says "frozen", then reads nothing more: no pong, no close
+  /flood             sends "more" for as long as the connection lasts
   /hang              never answers the opening handshake
   /refuse            refuses the opening handshake with 403
 """
@@ -60,6 +61,9 @@ async def handler(websocket):
     elif path == "/close":
         await websocket.write_close_frame(Close(1000, ""), b"")
         await websocket.wait_closed()
+    elif path == "/flood":
+        while True:
+            await websocket.send("more")
     elif path == "/frozen":
         await websocket.send("frozen")
         websocket.transport.pause_reading()

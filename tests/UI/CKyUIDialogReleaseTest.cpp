@@ -29,13 +29,12 @@ TEST(CKyUIDialogReleaseTest, RunsLeaveNoWindowBehind)
 // also after being turned on and off again).
 TEST(CKyUIDialogReleaseTest, DeletedWhileShownEndsTheRunAndHidesOrReleasesTheWindow)
 {
-    enum { Off, On, OnThenOff };
-    for (const int release : {On, Off, OnThenOff}) {
+    for (const int release : {1, 0, 2}) { // on, off, on and then off
         for (const int way : {0, 1, 2}) { // a click in the run, in a loop nested in it, no run
             SCOPED_TRACE(release * 10 + way);
             auto* dialog = new SampleDialog;
-            dialog->setReleasesToolkitDialog(release != Off);
-            dialog->setReleasesToolkitDialog(release == On);
+            dialog->setReleasesToolkitDialog(release != 0);
+            dialog->setReleasesToolkitDialog(release == 1);
             dialog->afterSetup = [](SampleDialog& self) {
                 self.button->clicked().connect([&self](bool) { delete &self; });
             };
@@ -65,11 +64,9 @@ TEST(CKyUIDialogReleaseTest, DeletedWhileShownEndsTheRunAndHidesOrReleasesTheWin
                                      }),
                           0);
             }
-            EXPECT_EQ(window.isNull(), release == On);
-            if (window) {
-                EXPECT_FALSE(window->isVisible());
-                delete window.data();
-            }
+            EXPECT_EQ(window.isNull(), release == 1);
+            EXPECT_FALSE(window && window->isVisible());
+            delete window.data();
         }
     }
 }
