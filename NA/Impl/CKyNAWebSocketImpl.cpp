@@ -20,14 +20,15 @@ CKyNAWebSocketImpl::CKyNAWebSocketImpl(CKyNAWebSocket* owner, const QString& ori
 
 CKyNAWebSocketImpl::~CKyNAWebSocketImpl()
 {
-    // Runs while the signals still exist: the socket may report its
-    // disconnection as it goes.
+    // Cut off before the toolkit socket goes: its last report would reach an
+    // owner that is half destroyed.
     DestroyWebSocketImpl();
 }
 
 void CKyNAWebSocketImpl::open(const CKyNANetworkRequest& request)
 {
     ++m_opens;
+    m_connected = false;
     m_closing = false;
     m_closeCode = CKyNAWebSocketProtocol::CloseCode(0);
     m_closeReason.clear();
@@ -47,7 +48,9 @@ void CKyNAWebSocketImpl::close(CKyNAWebSocketProtocol::CloseCode code, const QSt
 
 void CKyNAWebSocketImpl::ping(const QByteArray& payload)
 {
-    PingImpl(payload);
+    // Before connected() a frame would corrupt the opening handshake.
+    if (m_connected)
+        PingImpl(payload);
 }
 
 void CKyNAWebSocketImpl::ignoreSslErrors()
@@ -70,6 +73,7 @@ void CKyNAWebSocketImpl::SetHandshakeTimeout(int ms)
 void CKyNAWebSocketImpl::OnConnected()
 {
     StopHandshakeTimerImpl();
+    m_connected = true;
     EmitInOrder([this] { connected.Emit(); });
 }
 
@@ -82,6 +86,7 @@ void CKyNAWebSocketImpl::OnError(int code)
 void CKyNAWebSocketImpl::OnDisconnected(CKyNAWebSocketProtocol::CloseCode code, const QString& reason)
 {
     StopHandshakeTimerImpl();
+    m_connected = false;
     m_closeCode = m_closing ? code : CKyNAWebSocketProtocol::CloseCodeAbnormalDisconnection;
     m_closeReason = m_closing ? reason : QString();
     EmitInOrder([this] { disconnected.Emit(); });
@@ -94,7 +99,9 @@ void CKyNAWebSocketImpl::OnTextMessageReceived(const QString& message)
 
 void CKyNAWebSocketImpl::OnClosing()
 {
-    m_closing = true;
+    // Aborting an opening closes the toolkit socket too, with no close frame.
+    if (m_connected)
+        m_closing = true;
 }
 
 void CKyNAWebSocketImpl::OnSslErrors(const QList<QSslError>& errors)

@@ -63,6 +63,8 @@ private:
     // Counts open() calls, so that a slot that opens again from inside a
     // report is not undone by what follows that report.
     int m_opens = 0;
+    // Between connected() and disconnected().
+    bool m_connected = false;
     // Whether the connection went through a closing handshake: without one
     // the toolkit's close code is stale.
     bool m_closing = false;

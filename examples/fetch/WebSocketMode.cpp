@@ -23,9 +23,15 @@ const QCommandLineOption pingOption(QStringLiteral("ping"),
                                                    "server that leaves a ping unanswered until the next."),
                                     QStringLiteral("MS"));
 
+// The option's positive whole number; 0 when it is not given, -1 when it is
+// not such a number.
 int number(const QCommandLineParser& parser, const QCommandLineOption& option)
 {
-    return parser.isSet(option) ? parser.value(option).toInt() : 0;
+    if (!parser.isSet(option))
+        return 0;
+    bool ok = false;
+    const int value = parser.value(option).toInt(&ok);
+    return ok && value > 0 ? value : -1;
 }
 
 void printLine(QTextStream& stream, const QString& text)
@@ -53,6 +59,13 @@ int runWebSocket(const QCommandLineParser& parser, const CKyNANetworkRequest& re
     const int pingMs = number(parser, pingOption);
     QTextStream out(stdout);
     QTextStream err(stderr);
+    for (const QCommandLineOption* option : {&messagesOption, &forOption, &pingOption}) {
+        if (number(parser, *option) < 0) {
+            err << "fetch: --" << option->names().constFirst() << " takes a positive whole number\n\n"
+                << parser.helpText();
+            return 2;
+        }
+    }
     bool failed = false;
     int received = 0;
     bool awaitingPong = false;

@@ -11,6 +11,7 @@ class QUrl;
 void addWebSocketOptions(QCommandLineParser& parser);
 bool isWebSocketUrl(const QUrl& url);
 // Runs until the connection ends. Exits with 0 after a normal closure (1000),
-// with 1 after an error, a silent peer or any other close code.
+// with 1 after an error, a silent peer or any other close code, with 2 when
+// --messages, --for or --ping is not a positive whole number.
 int runWebSocket(const QCommandLineParser& parser, const CKyNANetworkRequest& request,
                  int handshakeTimeoutMs);

@@ -6,9 +6,16 @@
 //
 // Sends one request through CKyNANetworkAccessManager and prints the status
 // code, the received headers and the body size (or the body itself, or
-// streams it into a file with a progress bar on a terminal). Exits with 1 and
-// the error code and text when the transfer fails or times out, with 2 on a
-// usage error.
+// streams it into a file with a progress bar on a terminal).
+//
+// Exit codes, each failure with one line on stderr:
+//   0  the transfer succeeded (a web socket: it ended with a normal closure)
+//   1  the transfer failed or timed out (the error code and text); a web
+//      socket failed to open, saw an error, missed a pong or ended with any
+//      other close code
+//   2  usage: an unknown option, a missing or malformed argument, a --cacert
+//      file without certificates (the help follows the message)
+//   3  --output could not be opened or written; the transfer is abandoned
 
 #include "NA/CKyNANetworkAccessManager.h"
 #include "NA/CKyNANetworkReply.h"
@@ -37,6 +44,13 @@ int usageError(const QCommandLineParser& parser, const QString& message)
     return 2;
 }
 
+int outputError(const QFile& output)
+{
+    QTextStream(stderr) << "fetch: cannot write " << output.fileName() << ": " << output.errorString()
+                        << '\n';
+    return 3;
+}
+
 // One line on stderr, redrawn in place: a bar when the size is known.
 void drawProgress(long long received, long long total)
 {
@@ -60,7 +74,7 @@ int main(int argc, char** argv)
 
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Sends one HTTP request and prints what comes back."));
-    parser.addHelpOption();
+    const QCommandLineOption helpOption = parser.addHelpOption();
     parser.addPositionalArgument(QStringLiteral("URL"), QStringLiteral("The address to ask."));
     const QCommandLineOption timeoutOption(QStringLiteral("timeout"),
                                            QStringLiteral("Abort after MS milliseconds (default 30000)."),
@@ -90,7 +104,11 @@ int main(int argc, char** argv)
     parser.addOptions({timeoutOption, methodOption, headOption, dataOption, headerOption, bodyOption,
                        outputOption, cacertOption, insecureOption, locationOption});
     addWebSocketOptions(parser);
-    parser.process(application);
+    // Not process(): it ends the program with 1 on a usage error.
+    if (!parser.parse(QCoreApplication::arguments()))
+        return usageError(parser, parser.errorText());
+    if (parser.isSet(helpOption))
+        parser.showHelp();
 
     if (parser.positionalArguments().size() != 1)
         return usageError(parser, QStringLiteral("expected exactly one URL"));
@@ -136,9 +154,9 @@ int main(int argc, char** argv)
     std::unique_ptr<QFile> output;
     if (parser.isSet(outputOption)) {
         output.reset(new QFile(parser.value(outputOption)));
-        if (!output->open(QIODevice::WriteOnly))
-            return usageError(
-                parser, QStringLiteral("cannot write %1: %2").arg(output->fileName(), output->errorString()));
+        // Unbuffered, so that a failing write shows at once.
+        if (!output->open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+            return outputError(*output);
         request.setStreaming(true);
     }
     const QByteArray data = parser.value(dataOption).toUtf8();
@@ -173,13 +191,26 @@ int main(int argc, char** argv)
             started->ignoreSslErrors();
     });
     long long written = 0;
+    bool writeFailed = false;
     bool progressShown = false;
+    // A piece that does not reach the file ends the transfer: nothing is
+    // lost without notice.
+    const auto store = [&](const QByteArray& piece) {
+        if (writeFailed || piece.isEmpty())
+            return;
+        if (output->write(piece) == piece.size()) {
+            written += piece.size();
+            return;
+        }
+        writeFailed = true;
+        started->abort();
+    };
     if (output) {
-        QFile* file = output.get();
         // Taken in pieces as it arrives, so a large body never sits in memory.
-        started->readyRead().connect([started, file, &written] {
-            for (QByteArray chunk = started->read(1 << 16); !chunk.isEmpty(); chunk = started->read(1 << 16))
-                written += file->write(chunk);
+        started->readyRead().connect([started, &store, &writeFailed] {
+            for (QByteArray chunk = started->read(1 << 16); !chunk.isEmpty() && !writeFailed;
+                 chunk = started->read(1 << 16))
+                store(chunk);
         });
         if (::isatty(STDERR_FILENO)) {
             started->downloadProgress().connect([&progressShown](long long received, long long total) {
@@ -195,6 +226,8 @@ int main(int argc, char** argv)
         loop.exec();
     if (progressShown)
         QTextStream(stderr) << '\n';
+    if (writeFailed)
+        return outputError(*output);
 
     // Without a status nothing came back (refused, timed out, ...): only the
     // error is worth printing.
@@ -208,7 +241,9 @@ int main(int argc, char** argv)
             out << pair.first << ": " << pair.second << '\n';
         const QByteArray body = reply->bytesAvailable() > 0 ? reply->readAll() : QByteArray();
         if (output) {
-            written += output->write(body);
+            store(body);
+            if (writeFailed)
+                return outputError(*output);
             out << "body: " << written << " bytes written to " << output->fileName() << '\n';
         } else if (parser.isSet(bodyOption)) {
             out << '\n';

@@ -31,9 +31,11 @@ class CKyNANetworkRequest;
 /// pong(), so a client notices a frozen server; closeCode() and closeReason()
 /// tell how the last connection ended.
 ///
-/// The client owns the web socket; deleting it closes the connection.
-/// Deleting it from one of its own slots is fine: the toolkit socket is then
-/// cut off and goes on the next pass of the event loop.
+/// The client owns the web socket; deleting it closes the connection (the
+/// peer is sent CKyNAWebSocketProtocol::CloseCodeGoingAway) and reports
+/// nothing: once deletion begins no signal is emitted, not even
+/// disconnected(). Deleting it from one of its own slots is fine: the toolkit
+/// socket then goes on the next pass of the event loop.
 ///
 /// See \ref services.
 class COMMONUI_EXPORT CKyNAWebSocket : public CKyUIObject
@@ -44,8 +46,8 @@ public:
     /// holding CR, LF or NUL would split the opening request: it is not
     /// announced at all, and one warning says why.
     CKyNAWebSocket(const QString& origin, CKyNAWebSocketProtocol::Version version);
-    /// Deletes the toolkit socket at once; it may still report disconnected()
-    /// while doing so.
+    /// Deletes the toolkit socket at once, without reporting disconnected()
+    /// or anything else.
     ~CKyNAWebSocket() override;
 
     /// Opens the connection to the request's URL with its headers and its TLS
@@ -67,7 +69,8 @@ public:
     int handshakeTimeout() const;
 
     /// Sends a ping with up to 125 bytes of @p payload (longer ones are cut);
-    /// the peer's answer arrives as pong(). Does nothing while not connected.
+    /// the peer's answer arrives as pong(). Does nothing while not connected:
+    /// before connected(), once close() was called and after disconnected().
     /// A peer that stays silent after a ping is frozen or gone: the client
     /// decides how long it waits.
     void ping(const QByteArray& payload = QByteArray());
@@ -82,10 +85,13 @@ public:
 
     /// How the last connection ended, read once disconnected() is reported:
     /// the code of the closing handshake (the peer's when the peer closed, the
-    /// one given to close() when this side did), or
+    /// one given to close() when this side did; CloseCodeNormal when the
+    /// peer's close frame carried no code), or
     /// CKyNAWebSocketProtocol::CloseCodeAbnormalDisconnection when it ended
-    /// without one (connection lost, refused, aborted or timed out). 0 after
-    /// construction and after each open() until the next disconnection.
+    /// without one (connection dropped, refused, aborted or timed out, opening
+    /// handshake or TLS refused). 0 after construction and after each open()
+    /// until the next disconnection. \ref services_websocket_endings lists
+    /// every ending.
     CKyNAWebSocketProtocol::CloseCode closeCode() const;
     /// The reason that came with closeCode(); empty when there was none.
     QString closeReason() const;

@@ -22,7 +22,11 @@ class CKyUIVerticalLayout;
 /// owned by the root layout, which the dialog deletes with itself; so is the
 /// CKyUIDialogButtonBox, a child of the dialog. The toolkit dialog behind it
 /// stays alive by design when the dialog object is deleted: it is hidden and
-/// no longer referenced. Leak checkers report it; the library's suppression
+/// no longer referenced. A dialog deleted while shown, or while its exec()
+/// runs (from one of its own slots, or from a nested event loop inside the
+/// run), is hidden once the slots have returned, after the views' widgets
+/// went; that ends the run, and exec() returns the toolkit's current result
+/// code. Leak checkers report it; the library's suppression
 /// files name it. A host that opens dialogs thousands of times turns on
 /// setReleasesToolkitDialog() (or setDefaultReleasesToolkitDialog() once for
 /// every dialog made afterwards), and the toolkit dialog then goes with the

@@ -2,17 +2,25 @@
 """A web-socket peer for the tests, on python3-websockets, listening on 127.0.0.1.
 
 Listens twice, in plain text and in TLS with a self-signed certificate for
-127.0.0.1 that it makes with openssl, and prints both base URLs on one line
-("ws://127.0.0.1:PORT wss://127.0.0.1:PORT"). Exits when its standard input
+127.0.0.1 that it makes with openssl, and once more as a raw TCP peer that
+upgrades any request, says "hello" and drops the connection without a close
+frame. Prints the three base URLs on one line ("ws://127.0.0.1:PORT
+wss://127.0.0.1:PORT ws://127.0.0.1:PORT"). Exits when its standard input
 closes, so it never outlives the test that started it. The path of the request
 picks what it does:
   /echo              sends every text message back
   /close/CODE/REASON closes at once with CODE and the URL-decoded REASON
+  /close             closes at once with a close frame that carries no code
   /frozen            says "frozen", then reads nothing more: no pong, no close
+  /flood             sends "more" for as long as the connection lasts
   /hang              never answers the opening handshake
+  /refuse            refuses the opening handshake with 403
 """
 import asyncio
+import base64
+import hashlib
 import os
+import re
 import ssl
 import subprocess
 import sys
@@ -20,6 +28,7 @@ import tempfile
 import urllib.parse
 
 import websockets
+from websockets.frames import Close
 
 
 async def forever():
@@ -29,7 +38,19 @@ async def forever():
 async def process_request(path, headers):
     if path == "/hang":
         await forever()
+    if path == "/refuse":
+        return 403, [], b""
     return None
+
+
+async def drop(reader, writer):
+    request = await reader.readuntil(b"\r\n\r\n")
+    key = re.search(rb"Sec-WebSocket-Key: *(\S+)", request, re.I).group(1)
+    accept = base64.b64encode(hashlib.sha1(key + b"258EAFA5-E914-47DA-95CA-C5AB0DC85B11").digest())
+    writer.write(b"HTTP/1.1 101 Switching Protocols\r\nUpgrade: websocket\r\nConnection: Upgrade\r\n"
+                 b"Sec-WebSocket-Accept: " + accept + b"\r\n\r\n\x81\x05hello")
+    await writer.drain()
+    writer.close()
 
 
 async def handler(websocket):
@@ -37,6 +58,12 @@ async def handler(websocket):
     if path.startswith("/close/"):
         _, _, code, reason = path.split("/", 3)
         await websocket.close(int(code), urllib.parse.unquote(reason))
+    elif path == "/close":
+        await websocket.write_close_frame(Close(1000, ""), b"")
+        await websocket.wait_closed()
+    elif path == "/flood":
+        while True:
+            await websocket.send("more")
     elif path == "/frozen":
         await websocket.send("frozen")
         websocket.transport.pause_reading()
@@ -65,8 +92,10 @@ async def main():
     options = dict(process_request=process_request, ping_interval=None)
     async with websockets.serve(handler, "127.0.0.1", 0, **options) as plain, \
             websockets.serve(handler, "127.0.0.1", 0, ssl=context, **options) as secure:
+        raw = await asyncio.start_server(drop, "127.0.0.1", 0)
         print(f"ws://127.0.0.1:{plain.sockets[0].getsockname()[1]}",
-              f"wss://127.0.0.1:{secure.sockets[0].getsockname()[1]}", flush=True)
+              f"wss://127.0.0.1:{secure.sockets[0].getsockname()[1]}",
+              f"ws://127.0.0.1:{raw.sockets[0].getsockname()[1]}", flush=True)
         await forever()
 
 

@@ -55,13 +55,11 @@ void CKyNAWebSocketImpl::CreateWebSocketImpl(const QString& origin, CKyNAWebSock
     m_connections << QObject::connect(
         socket, &QWebSocket::textMessageReceived, socket,
         [this](const QString& message) { OnTextMessageReceived(message); }, Qt::DirectConnection);
+    // Announced only when a close frame goes out, ours or the answer to the
+    // peer's; a connection that merely drops passes through the closing state
+    // without it.
     m_connections << QObject::connect(
-        socket, &QWebSocket::stateChanged, socket,
-        [this](QAbstractSocket::SocketState state) {
-            if (state == QAbstractSocket::ClosingState)
-                OnClosing();
-        },
-        Qt::DirectConnection);
+        socket, &QWebSocket::aboutToClose, socket, [this] { OnClosing(); }, Qt::DirectConnection);
 #if QT_CONFIG(ssl)
     m_connections << QObject::connect(
         socket, &QWebSocket::sslErrors, socket,
@@ -79,16 +77,16 @@ void CKyNAWebSocketImpl::DestroyWebSocketImpl()
     if (!socket)
         return;
     owner()->setHandle(nullptr);
-    if (!IsReporting()) {
-        delete socket;
-        return;
-    }
-    // Destroyed from a slot of one of the socket's own reports: the toolkit
-    // socket carries on with its work once the slot returns, so it cannot go
-    // now. It is cut off from us and goes on the next pass of the event loop.
     for (const QMetaObject::Connection& connection : qAsConst(m_connections))
         QObject::disconnect(connection);
-    socket->deleteLater();
+    m_connections.clear();
+    // Destroyed from a slot of one of the socket's own reports, the toolkit
+    // socket carries on with its work once the slot returns, so it cannot go
+    // now: it goes on the next pass of the event loop.
+    if (IsReporting())
+        socket->deleteLater();
+    else
+        delete socket;
 }
 
 void CKyNAWebSocketImpl::OpenImpl(const CKyNANetworkRequest& request)
@@ -105,6 +103,9 @@ void CKyNAWebSocketImpl::OpenImpl(const CKyNANetworkRequest& request)
     const bool own = configuration != QSslConfiguration::defaultConfiguration();
     if (own || !socket->sslConfiguration().isNull())
         socket->setSslConfiguration(own ? configuration : QSslConfiguration());
+    // The toolkit would apply errors listed as ignored for an earlier
+    // handshake to this one too.
+    socket->ignoreSslErrors(QList<QSslError>());
 #endif
     socket->open(*toolkitRequest);
 }
@@ -117,7 +118,9 @@ void CKyNAWebSocketImpl::CloseImpl(CKyNAWebSocketProtocol::CloseCode code, const
 
 void CKyNAWebSocketImpl::PingImpl(const QByteArray& payload)
 {
-    if (QWebSocket* socket = toolkitSocket(owner()))
+    // Once closing, the toolkit socket is no longer open for writing.
+    QWebSocket* socket = toolkitSocket(owner());
+    if (socket && socket->state() == QAbstractSocket::ConnectedState)
         socket->ping(payload);
 }
 

@@ -48,7 +48,7 @@ void CKyUIDialogImpl::DestroyFrontendDialogImpl()
     // stays behind without an owner. It owns the box layout and the root
     // layout's group box, so their handles are dropped before the root layout
     // goes.
-    QDialog* released = m_releasesToolkitDialog ? DialogOf(owner()) : nullptr;
+    QDialog* dialog = DialogOf(owner());
     owner()->setHandle(nullptr);
     if (m_rootLayout) {
         m_rootLayout->setHandle(nullptr);
@@ -56,18 +56,25 @@ void CKyUIDialogImpl::DestroyFrontendDialogImpl()
         delete m_rootLayout;
         m_rootLayout = nullptr;
     }
-    if (!released)
+    if (!dialog)
         return;
+    if (!m_releasesToolkitDialog) {
+        // A window still shown, or still running, is hidden after the views'
+        // widgets go; hiding ends the run.
+        if (dialog->isVisible())
+            (new HideOnDeferredDelete(dialog))->deleteLater();
+        return;
+    }
     // Later, after the views' widgets: one of them, or the dialog itself, may
     // be inside an event handler right now.
     if (!m_releaseAfterRun) {
-        released->deleteLater();
+        dialog->deleteLater();
         return;
     }
     // Its exec() is still on the stack: end the run, and let ExecImpl delete
     // the dialog once the run's loop, and every loop inside it, has returned.
     *m_releaseAfterRun = true;
-    (new HideOnDeferredDelete(released))->deleteLater();
+    (new HideOnDeferredDelete(dialog))->deleteLater();
 }
 
 void CKyUIDialogImpl::SetupUIImpl(QObject*)

@@ -1,0 +1,90 @@
+#!/usr/bin/python3
+"""Runs fetch once per kind of ending and checks the exit code that its header
+comment states, and the line it prints.
+
+Usage: exit_codes_test.py FETCH WEBSOCKET_PEER
+Serves HTTP on 127.0.0.1 itself and starts the web-socket peer of the tests
+(plain, TLS and raw; see there). Exits non-zero if any row fails.
+"""
+import http.server
+import os
+import socket
+import subprocess
+import sys
+import tempfile
+import threading
+import time
+
+BODY = os.urandom(300_000)
+
+
+class Handler(http.server.BaseHTTPRequestHandler):
+    def do_GET(self):
+        if self.path == "/stall":
+            time.sleep(3)
+        if self.path != "/body":
+            self.send_error(404)
+            return
+        self.send_response(200)
+        self.send_header("Content-Length", str(len(BODY)))
+        self.end_headers()
+        self.wfile.write(BODY)
+
+    def log_message(self, *args):
+        pass
+
+
+def main():
+    fetch, peer_script = sys.argv[1:3]
+    server = http.server.ThreadingHTTPServer(("127.0.0.1", 0), Handler)
+    server.daemon_threads = True
+    threading.Thread(target=server.serve_forever, daemon=True).start()
+    http_url = f"http://127.0.0.1:{server.server_address[1]}"
+    closed = socket.socket()  # bound, never listening: refuses
+    closed.bind(("127.0.0.1", 0))
+    closed_port = closed.getsockname()[1]
+    peer = subprocess.Popen(["/usr/bin/python3", peer_script], stdin=subprocess.PIPE, stdout=subprocess.PIPE,
+                            text=True)
+    ws, _, raw = peer.stdout.readline().split()
+    work = tempfile.mkdtemp()
+    saved = os.path.join(work, "body.bin")
+
+    # arguments, exit code, a line expected in stdout or stderr
+    rows = [
+        ([], 2, "fetch: expected exactly one URL"),
+        (["--bogus", http_url], 2, "fetch: Unknown option 'bogus'."),
+        ([http_url, "--timeout", "0"], 2, "fetch: the time-out is a positive number of milliseconds"),
+        ([http_url, "--cacert", "/dev/null"], 2, "fetch: no PEM certificate in /dev/null"),
+        ([http_url + "/body"], 0, f"body: {len(BODY)} bytes"),
+        ([http_url + "/body", "--output", saved], 0, f"body: {len(BODY)} bytes written to {saved}"),
+        ([http_url + "/missing"], 1, "status: 404"),
+        ([f"http://127.0.0.1:{closed_port}/"], 1, "fetch: error 1: Connection refused"),
+        ([http_url + "/stall", "--timeout", "300"], 1, "fetch: error 5: Operation canceled"),
+        ([http_url + "/body", "--output", "/dev/full"], 3, "fetch: cannot write /dev/full: No space left on device"),
+        ([http_url + "/body", "--output", work + "/no/such"], 3,
+         f"fetch: cannot write {work}/no/such: No such file or directory"),
+        ([ws + "/close/1000/done"], 0, "close: 1000 done"),
+        ([ws + "/close/4001/bye"], 1, "close: 4001 bye"),
+        ([raw], 1, "close: 1006 "),
+        ([f"ws://127.0.0.1:{closed_port}/"], 1, "fetch: web socket error 0"),
+        ([ws + "/echo", "--ping", "soon"], 2, "fetch: --ping takes a positive whole number"),
+    ]
+    failed = 0
+    for arguments, code, line in rows:
+        run = subprocess.run([fetch, *arguments], capture_output=True, text=True, timeout=60)
+        lines = (run.stdout + run.stderr).splitlines()
+        if run.returncode != code or line not in lines:
+            failed += 1
+            print(f"FAILED: fetch {' '.join(arguments)}: exit {run.returncode} (want {code}), want the line "
+                  f"{line!r}\n{run.stdout}{run.stderr}")
+    with open(saved, "rb") as file:
+        if file.read() != BODY:
+            failed += 1
+            print(f"FAILED: {saved} does not hold the body")
+    peer.stdin.close()
+    peer.wait(5)
+    print(f"{len(rows) + 1 - failed} passed, {failed} failed")
+    return 1 if failed else 0
+
+
+sys.exit(main())
