@@ -118,3 +118,32 @@ TEST_F(ReplyTimeout, TimerFollowsTheRequestOrFallsBackTo30Seconds)
     CKyNANetworkReplyTimeout orphan(nullptr, 1);
     EXPECT_FALSE(orphan.isActive());
 }
+
+// A coarse timer may fire up to 5 % early, depending on the moment it starts:
+// sixteen transfers started a few milliseconds apart catch that.
+TEST_F(ReplyTimeout, NeitherBoundFiresEarly)
+{
+    const int bound = 230;
+    for (const bool silence : {false, true}) {
+        SCOPED_TRACE(silence);
+        request.setInactivityTimeout(silence ? bound : 0);
+        std::vector<std::unique_ptr<CKyNANetworkReply>> replies;
+        std::vector<QElapsedTimer> clocks(16);
+        std::vector<qint64> ended(16, -1);
+        QTimer stagger;
+        stagger.setTimerType(Qt::PreciseTimer);
+        QObject::connect(&stagger, &QTimer::timeout, [&] {
+            const size_t i = replies.size();
+            clocks[i].start();
+            replies.push_back(start("/stall", silence ? 30000 : bound));
+            replies.back()->error().connect(
+                [&, i](CKyNANetworkReply::NetworkError) { ended[i] = clocks[i].nsecsElapsed(); });
+            if (replies.size() == clocks.size())
+                stagger.stop();
+        });
+        stagger.start(7);
+        ASSERT_TRUE(waitUntil([&] { return ended.back() >= 0; }));
+        for (const qint64 ns : ended)
+            EXPECT_GE(ns, bound * 1000000LL);
+    }
+}

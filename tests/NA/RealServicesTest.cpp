@@ -7,9 +7,10 @@
 namespace
 {
 
-// Trust and Client imply https; OneHop allows one redirect instead of two.
+// Trust and Client imply https; OneHop allows one redirect instead of two; Custom sends the verb
+// with sendCustomRequest, even GET and HEAD.
 constexpr int Https = 1, Trust = 3, Client = 5, IgnoreAll = 8, IgnoreListed = 16, Follow = 32, Downgrade = 64,
-              OneHop = 128, Stream = 256;
+              OneHop = 128, Stream = 256, Custom = 512, Credentials = 1024;
 
 QStringList g_warnings;
 
@@ -50,8 +51,9 @@ protected:
     QStringList run(CKyNANetworkRequest& request, const QByteArray& verb, int options = 0)
     {
         CKyNANetworkAccessManager manager;
-        std::unique_ptr<CKyNANetworkReply> reply(verb == "GET" ? manager.get(request)
-                                                 : verb == "HEAD"
+        const QByteArray plain = options & Custom ? "" : verb;
+        std::unique_ptr<CKyNANetworkReply> reply(plain == "GET" ? manager.get(request)
+                                                 : plain == "HEAD"
                                                      ? manager.head(request)
                                                      : manager.sendCustomRequest(request, verb, "x"));
         Recorder recorder;
@@ -100,10 +102,22 @@ TEST_F(RealServices, TlsRedirectsMethodsEncodingsAndStreaming)
         {"/client", Trust | Client, "GET", tls, "SUCCESS"},
         {"/moved", 0, "HEAD", {"finished", "at:/moved,false"}, ""},
         {"/moved", Follow, "HEAD", hello, ""},
+        {"/hello.txt", Custom, "HEAD", hello, ""},
         {"/twice", Follow, "GET", hello, "hello\n"},
         {"/twice", Follow | OneHop, "GET", {"error:10", "finished", "at:/found,false"}, ""},
-        {"/to-http", Trust | Follow, "GET", {"encrypted", "error:11", "finished", "at:/hello.txt,false"}, ""},
+        // Refused: it ends where it was, never having fetched the http page.
+        {"/to-http", Trust | Follow, "GET", {"encrypted", "error:11", "finished", "at:/to-http,false"}, ""},
         {"/to-http", Trust | Follow | Downgrade, "GET", QStringList{"encrypted"} + hello, "hello\n"},
+        {"/to-headers",
+         Trust | Follow | Credentials,
+         "GET",
+         {"encrypted", "finished", "at:/headers,false"},
+         "t|c=1"},
+        {"/to-http-headers",
+         Trust | Follow | Downgrade | Credentials,
+         "GET",
+         {"encrypted", "finished", "at:/headers,false"},
+         "|"},
         {"/method", 0, "PATCH", {"finished", "at:/method,false"}, "PATCH"},
         {"/method", 0, "OPTIONS", {"finished", "at:/method,false"}, "OPTIONS"},
         {"/gz/lines.txt", 0, "GET", {"finished", "at:/gz/lines.txt,false"}, file("www/gz/lines.txt")},
@@ -122,6 +136,10 @@ TEST_F(RealServices, TlsRedirectsMethodsEncodingsAndStreaming)
             request.setFollowRedirects(true);
             request.setMaximumRedirects(c.options & OneHop ? 1 : 2);
             request.setAllowInsecureRedirects(c.options & Downgrade);
+        }
+        if (c.options & Credentials) {
+            request.setRawHeader("Authorization", "t");
+            request.setRawHeader("Cookie", "c=1");
         }
         request.setStreaming(c.options & Stream);
         EXPECT_EQ(run(request, c.verb, c.options).join(' ').toStdString(), c.outcome.join(' ').toStdString());
@@ -160,5 +178,50 @@ TEST_F(RealServices, TimeOutsBoundTheWholeTransferAndEachSilence)
         clock.start();
         EXPECT_EQ(run(request, c.verb).mid(0, 2), (QStringList{"error:5", "finished"})) << c.atLeastMs;
         EXPECT_GE(clock.elapsed(), c.atLeastMs);
+    }
+}
+
+// abort() and deletion from the TLS reports; the other reports are TransferEnd's.
+TEST_F(RealServices, AbortOrDeleteFromTheTlsReports)
+{
+    const struct
+    {
+        int options;
+        QString at;
+        bool remove;
+        QStringList outcome;
+    } cases[] = {
+        {Trust, "encrypted", false, {"encrypted", "abort", "error:5", "finished"}},
+        {Trust, "encrypted", true, {"encrypted", "delete"}},
+        {Https, "sslErrors", false, {"sslErrors", "abort", "error:5", "finished"}},
+        {Https, "sslErrors", true, {"sslErrors", "delete"}},
+    };
+    for (const auto& c : cases) {
+        CKyNANetworkAccessManager manager; // a fresh connection each time
+        CKyNANetworkRequest request(url(QStringLiteral("/hello.txt"), true));
+        if ((c.options & Trust) == Trust)
+            request.setCaCertificates(QSslCertificate::fromData(file("ca.pem")));
+        CKyNANetworkReply* reply = manager.get(request);
+        Recorder log;
+        RecordReply(log, reply);
+        const auto act = [&](const QString& report) {
+            if (report != c.at)
+                return;
+            log.add(c.remove ? "delete" : "abort");
+            if (!c.remove)
+                return reply->abort();
+            delete reply;
+            reply = nullptr;
+        };
+        reply->encrypted().connect([&] { act("encrypted"); });
+        reply->sslErrors().connect([&](const QList<QSslError>&) {
+            log.add("sslErrors");
+            act("sslErrors");
+        });
+        ASSERT_TRUE(waitUntil([&] { return !reply || reply->isFinished(); }));
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(Outcome(log), c.outcome) << c.at.toStdString();
+        delete reply;
     }
 }
