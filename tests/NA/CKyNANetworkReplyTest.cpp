@@ -68,26 +68,6 @@ TEST_F(NetworkReply, NothingIsReadableBeforeTheTransferEnds)
     EXPECT_EQ(reply->rawHeader("Content-Type"), QByteArray("text/plain"));
 }
 
-// Streaming makes the body readable at once; a slow reader leaves the rest with
-// the server instead of in memory.
-TEST_F(NetworkReply, AStreamingReplyIsReadableBeforeItEndsAndHoldsABoundedBuffer)
-{
-    request.setStreaming(true);
-    std::unique_ptr<CKyNANetworkReply> reply(start({}, QByteArray(2000, 'b'), Mode::StallMidBody));
-    Recorder recorder;
-    RecordReply(recorder, reply.get());
-    ASSERT_TRUE(waitUntil([&] { return reply->bytesAvailable() == 1000; }));
-    EXPECT_TRUE(reply->isRunning());
-    EXPECT_EQ(reply->read(10), QByteArray(10, 'b'));
-    EXPECT_EQ(reply->readAll(), QByteArray(990, 'b'));
-    // The toolkit reply is a sequential device: it has no position.
-    EXPECT_EQ(reply->pos(), 0);
-    EXPECT_EQ(reply->bytesAvailable(), 0);
-    EXPECT_TRUE(Outcome(recorder).isEmpty());
-    EXPECT_EQ(qobject_cast<QNetworkReply*>(reply->getHandle())->readBufferSize(),
-              CKyNANetworkReplyImpl::StreamingBufferBytes);
-}
-
 TEST_F(NetworkReply, RepeatedHeaderNamesMergeAsInTheToolkitAndNamesMatchCaseSensitively)
 {
     const HttpHeaderPairs headers{{"X-Rep", "1"},        {"X-Rep", "2"},   {"Set-Cookie", "a=1"},
