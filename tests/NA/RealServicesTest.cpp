@@ -260,7 +260,8 @@ TEST_F(RealServices, EachWayATransferEndsGivesItsErrorAndOneFinished)
         QStringList outcome = run(request, c.options & Post ? "POST" : "GET", c.options, c.at, c.action);
         if (body == "moved")
             outcome << body;
-        EXPECT_EQ((outcome << QStringLiteral("=%1").arg(code)).join(' '), c.outcome);
+        EXPECT_EQ((outcome << QStringLiteral("=%1").arg(code)).join(' ').toStdString(),
+                  c.outcome.toStdString());
         // The toolkit's own words when abort(), handed on as it is, comes after its error.
         g_warnings.removeAll(
             "QNetworkReplyImplPrivate::error: Internal problem, this method must only be called once.");
@@ -321,7 +322,7 @@ TEST(RedirectCredentials, NeverLeaveTheOriginTheClientAddressed)
                              QStringLiteral(" credentials:%1").arg(credentials) +
                              (got.contains("Content-Type: text/plain") ? " typed" : "") +
                              (got.endsWith("\r\n\r\npayload") ? " body" : "");
-        EXPECT_EQ(seen, c.seen) << c.code << ' ' << c.target.toStdString();
+        EXPECT_EQ(seen.toStdString(), c.seen.toStdString()) << c.code << ' ' << c.target.toStdString();
         EXPECT_TRUE(got.contains("X-Kept: yes") && Outcome(recorder) == QStringList{"finished"});
     }
     peer.closeWriteChannel();
