@@ -5,11 +5,11 @@
 //
 // HTTP: HTTP/1.1 with keep-alive; every request, whatever its method and path,
 // is answered "200 OK" with a 16-byte body once its body (Content-Length) has
-// arrived. Qt's HTTP client sends a POST's head and body in two writes on a
-// socket with Nagle's algorithm on, so the body waits for the server to
-// acknowledge the head; a delayed acknowledgement would add some 40 ms to
-// every POST on a reused connection. The server therefore acknowledges at
-// once (TCP_QUICKACK, renewed after every read) and sends without delay
+// arrived; only GET /bytes/N is answered with N bytes, written as fast as the
+// client takes them (never more than 1 MiB waits in this process). Qt's HTTP client sends a POST's head and
+// body in two writes on a socket with Nagle's algorithm on, so the body waits for the server to acknowledge
+// the head; a delayed acknowledgement would add some 40 ms to every POST on a reused connection. The server
+// therefore acknowledges at once (TCP_QUICKACK, renewed after every read) and sends without delay
 // (TCP_NODELAY).
 //
 // Web socket: GET /stream?size=S&count=N upgrades, then sends N text messages
@@ -64,9 +64,26 @@ void AcknowledgeAtOnce(QTcpSocket* socket)
     ::setsockopt(int(socket->socketDescriptor()), IPPROTO_TCP, TCP_QUICKACK, &on, sizeof on);
 }
 
-void ServeHttp(QTcpSocket* socket, QByteArray& buffer)
+struct HttpConnection
 {
-    for (;;) {
+    QByteArray buffer;
+    qint64 bodyLeft = 0; // of a /bytes/N answer still being written
+};
+
+void PumpBody(QTcpSocket* socket, HttpConnection& connection)
+{
+    static const QByteArray chunk(1 << 16, 'b');
+    while (connection.bodyLeft > 0 && socket->bytesToWrite() < (1 << 20)) {
+        const qint64 size = std::min<qint64>(chunk.size(), connection.bodyLeft);
+        socket->write(size == chunk.size() ? chunk : chunk.left(int(size)));
+        connection.bodyLeft -= size;
+    }
+}
+
+void ServeHttp(QTcpSocket* socket, HttpConnection& connection)
+{
+    QByteArray& buffer = connection.buffer;
+    while (connection.bodyLeft == 0) {
         const int headEnd = buffer.indexOf("\r\n\r\n");
         if (headEnd < 0)
             return;
@@ -74,8 +91,16 @@ void ServeHttp(QTcpSocket* socket, QByteArray& buffer)
         const int total = headEnd + 4 + length;
         if (buffer.size() < total)
             return;
+        const QByteArray path = buffer.left(buffer.indexOf('\r')).split(' ').value(1);
         buffer.remove(0, total);
-        socket->write(kHttpAnswer);
+        if (!path.startsWith("/bytes/")) {
+            socket->write(kHttpAnswer);
+            continue;
+        }
+        connection.bodyLeft = path.mid(7).toLongLong();
+        socket->write("HTTP/1.1 200 OK\r\nContent-Type: application/octet-stream\r\nContent-Length: " +
+                      QByteArray::number(connection.bodyLeft) + "\r\n\r\n");
+        PumpBody(socket, connection);
     }
 }
 
@@ -84,11 +109,17 @@ void AcceptHttp(QTcpServer& server)
     while (QTcpSocket* socket = server.nextPendingConnection()) {
         socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
         AcknowledgeAtOnce(socket);
-        auto buffer = std::make_shared<QByteArray>();
-        QObject::connect(socket, &QTcpSocket::readyRead, socket, [socket, buffer] {
-            buffer->append(socket->readAll());
+        auto connection = std::make_shared<HttpConnection>();
+        QObject::connect(socket, &QTcpSocket::readyRead, socket, [socket, connection] {
+            connection->buffer.append(socket->readAll());
             AcknowledgeAtOnce(socket);
-            ServeHttp(socket, *buffer);
+            ServeHttp(socket, *connection);
+        });
+        QObject::connect(socket, &QTcpSocket::bytesWritten, socket, [socket, connection] {
+            if (connection->bodyLeft == 0)
+                return;
+            PumpBody(socket, *connection);
+            ServeHttp(socket, *connection);
         });
         QObject::connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
     }

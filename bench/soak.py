@@ -4,7 +4,9 @@
     bench/soak.py [--markdown] build-release/bench-results/commonui_bench_soak.json
 
 One row per workload: the heap left behind per unit of work after a warm-up,
-with dialogs keeping their toolkit dialog (the default) and releasing it.
+with dialogs keeping their toolkit dialog (the default) and releasing it. Then
+the peak resident memory while a large body arrives, read slowly from a
+streaming reply and read whole at the end.
 """
 import json
 import sys
@@ -34,6 +36,8 @@ def rows(path):
             continue
         parts = run.get("run_name", run["name"]).split("/")
         kind = parts[1]
+        if kind == "BigBody":
+            continue
         side = "released" if "released" in parts else "kept"
         workload = kind
         if kind == "Dialog":
@@ -55,6 +59,19 @@ def rows(path):
         yield workload, row["figure"], row["kept"], row["released"]
 
 
+def peaks(path):
+    """The peak resident memory of each BigBody run, as lines of text."""
+    with open(path) as f:
+        text = f.read()
+    runs = json.loads(text)["benchmarks"] if text.strip() else []
+    for run in runs:
+        parts = run.get("run_name", run["name"]).split("/")
+        if parts[1] != "BigBody" or run.get("run_type", "iteration") != "iteration":
+            continue
+        figure = "failed: " + run.get("error_message", "") if run.get("error_occurred") else size(run["peak"])
+        yield "peak resident above the start, %s body, %s: %s" % (size(run["body"]), parts[2], figure)
+
+
 def main(argv):
     markdown = "--markdown" in argv
     paths = [a for a in argv if a != "--markdown"]
@@ -63,17 +80,22 @@ def main(argv):
         return 2
     header = ("workload", "figure", "kept (default)", "released")
     table = [r for p in paths for r in rows(p)]
+    notes = [n for p in paths for n in peaks(p)]
     if not table:
-        return 0
-    if markdown:
+        pass
+    elif markdown:
         print("| " + " | ".join(header) + " |")
         print("|---|---|---:|---:|")
         for row in table:
             print("| " + " | ".join(row) + " |")
-        return 0
-    widths = [max(len(r[i]) for r in table + [header]) for i in range(len(header))]
-    for row in [header] + table:
-        print("%-*s  %-*s  %*s  %*s" % (widths[0], row[0], widths[1], row[1], widths[2], row[2], widths[3], row[3]))
+    else:
+        widths = [max(len(r[i]) for r in table + [header]) for i in range(len(header))]
+        for row in [header] + table:
+            print("%-*s  %-*s  %*s  %*s" % (widths[0], row[0], widths[1], row[1], widths[2], row[2], widths[3],
+                                            row[3]))
+    if notes:
+        print()
+        print("\n".join(notes))
     return 0
 
 

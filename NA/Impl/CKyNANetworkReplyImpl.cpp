@@ -46,11 +46,16 @@ void CKyNANetworkReplyImpl::setRequest(const CKyNANetworkRequest& request)
 
 CKyNANetworkReply::NetworkError CKyNANetworkReplyImpl::errorCode() const
 {
+    // A refused redirect is an answer the toolkit took as good.
+    if (m_redirects && m_redirects->error != CKyNANetworkReply::NoError)
+        return m_redirects->error;
     return ErrorImpl();
 }
 
 QString CKyNANetworkReplyImpl::errorString() const
 {
+    if (m_redirects && m_redirects->error != CKyNANetworkReply::NoError)
+        return m_redirects->errorString;
     return ErrorStringImpl();
 }
 
@@ -107,7 +112,14 @@ void CKyNANetworkReplyImpl::ignoreSslErrors(const QList<QSslError>& errors)
 
 void CKyNANetworkReplyImpl::StartStreaming()
 {
+    m_streaming = true;
     StartStreamingImpl();
+}
+
+void CKyNANetworkReplyImpl::FollowRedirects(std::unique_ptr<Redirects> redirects)
+{
+    m_redirects = std::move(redirects);
+    FollowRedirectsImpl();
 }
 
 QVariant CKyNANetworkReplyImpl::attribute(CKyNANetworkRequest::Attribute code) const
@@ -153,6 +165,8 @@ void CKyNANetworkReplyImpl::abort()
 
 void CKyNANetworkReplyImpl::OnDownloadProgress(long long received, long long total)
 {
+    if (m_skipBody)
+        return;
     downloadProgress.Emit(received, total);
 }
 
@@ -163,6 +177,12 @@ void CKyNANetworkReplyImpl::OnUploadProgress(long long sent, long long total)
 
 void CKyNANetworkReplyImpl::OnEncrypted()
 {
+    // Once per transfer, however many requests its redirects took.
+    if (m_redirects) {
+        if (m_redirects->encryptedReported)
+            return;
+        m_redirects->encryptedReported = true;
+    }
     encrypted.Emit();
 }
 
@@ -195,5 +215,20 @@ void CKyNANetworkReplyImpl::OnSslErrors(const QList<QSslError>& errors)
 
 void CKyNANetworkReplyImpl::OnReadyRead()
 {
+    if (m_skipBody) {
+        // Dropped, or the bounded buffer would fill and the redirect never end.
+        if (m_device)
+            m_device->readAll();
+        return;
+    }
     readyRead.Emit();
+}
+
+void CKyNANetworkReplyImpl::OnRedirectRefused(CKyNANetworkReply::NetworkError code, const QString& text,
+                                              int status, const HeaderPairs& pairs)
+{
+    m_redirects->error = code;
+    m_redirects->errorString = text;
+    // The redirect's own body is not the answer: nothing is readable.
+    EmitInOrder([&] { OnError(code, nullptr); }, [&] { OnFinished(status, pairs, nullptr); });
 }

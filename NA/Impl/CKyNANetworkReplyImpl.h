@@ -7,6 +7,9 @@
 #include <QtCore/QList>
 #include <QtCore/QMetaObject>
 #include <QtCore/QPair>
+#include <QtCore/QPointer>
+
+#include <memory>
 
 class QIODevice;
 
@@ -16,6 +19,28 @@ class CKyNANetworkReplyImpl : public CKyUIObjectImpl
 {
 public:
     using HeaderPairs = QList<QPair<QByteArray, QByteArray>>;
+
+    // Unread body a streaming reply holds at most; while it is full the
+    // toolkit stops reading from the server.
+    static constexpr long long StreamingBufferBytes = 1 << 20;
+
+    // What following redirects needs beyond the toolkit reply at hand, and
+    // how a refused redirect ended the transfer.
+    struct Redirects
+    {
+        int left = 0;
+        bool allowInsecure = false;
+        // The upload, sent again after a 307 or 308.
+        QByteArray body;
+        bool fromDevice = false;
+        QPointer<QIODevice> device;
+        long long devicePos = 0;
+        // The time-out guard, moved to each next toolkit reply.
+        QPointer<QObject> guard;
+        bool encryptedReported = false;
+        CKyNANetworkReply::NetworkError error = CKyNANetworkReply::NoError;
+        QString errorString;
+    };
 
     CKyNANetworkReplyImpl(CKyNANetworkReply* owner, QObject* reply);
     ~CKyNANetworkReplyImpl() override;
@@ -40,6 +65,8 @@ public:
     void ignoreSslErrors(const QList<QSslError>& errors);
     // Called by the manager for a streaming request, right after the start.
     void StartStreaming();
+    // Called by the manager for a request that follows redirects.
+    void FollowRedirects(std::unique_ptr<Redirects> redirects);
 
     QVariant attribute(CKyNANetworkRequest::Attribute code) const;
 
@@ -62,6 +89,7 @@ public:
     QUrl UrlImpl() const;
     void IgnoreSslErrorsImpl(const QList<QSslError>* errors);
     void StartStreamingImpl();
+    void FollowRedirectsImpl();
 
     // Reactions to the toolkit reply.
     void OnDownloadProgress(long long received, long long total);
@@ -71,6 +99,12 @@ public:
     void OnFinished(int status, const HeaderPairs& pairs, QIODevice* device);
     void OnSslErrors(const QList<QSslError>& errors);
     void OnReadyRead();
+    // A redirect the transfer may follow has arrived: its body is not the
+    // client's.
+    void OnRedirectArrived() { m_skipBody = true; }
+    // Ends the transfer on the redirect at hand, which was not followed.
+    void OnRedirectRefused(CKyNANetworkReply::NetworkError code, const QString& text, int status,
+                           const HeaderPairs& pairs);
 
     CKyUISignal<void(long long, long long)> downloadProgress;
     CKyUISignal<void(long long, long long)> uploadProgress;
@@ -86,6 +120,9 @@ private:
     // The device while it can be read: a failed or aborted toolkit reply is
     // closed, and reading it would make the toolkit complain.
     QIODevice* OpenDevice() const;
+    // Starts the request the redirect at hand leads to, under this reply;
+    // false when the transfer ends with this answer instead.
+    bool FollowImpl(QObject* toolkitReply);
 
     const CKyNANetworkRequest* m_request = nullptr;
     bool m_finished = false;
@@ -94,6 +131,9 @@ private:
     bool m_ownsDevice = true;
     QList<QByteArray> m_headerNames;
     HeaderPairs m_headerPairs;
+    bool m_streaming = false;
+    bool m_skipBody = false;
+    std::unique_ptr<Redirects> m_redirects;
     // Cut when the reply goes away, because the toolkit reply is deleted
     // later and might still report something in between.
     QList<QMetaObject::Connection> m_connections;

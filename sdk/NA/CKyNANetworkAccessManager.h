@@ -16,7 +16,8 @@ class CKyNANetworkRequest;
 ///
 /// Each operation starts the transfer at once and returns a distinct
 /// CKyNANetworkReply, also for equal requests. The time-out bounds the whole
-/// transfer, not a period of silence: progress does not restart it. An
+/// transfer, not a period of silence: progress does not restart it, and it
+/// never fires before its time. An
 /// aborted transfer reports `error(OperationCanceledError)` and then
 /// `finished()`. The manager keeps no list of its replies, and reports nothing
 /// itself: failures arrive through the reply.
@@ -61,7 +62,8 @@ public:
     CKyNANetworkReply* head(const CKyNANetworkRequest& request);
     /// Starts a transfer with any method (@p verb, such as "PATCH" or
     /// "OPTIONS"), sending @p body when it is not empty; guarded by the same
-    /// time-outs as the other operations. The caller owns the returned reply.
+    /// time-outs as the other operations. "HEAD" goes as head() does, without
+    /// a body. The caller owns the returned reply.
     CKyNANetworkReply* sendCustomRequest(const CKyNANetworkRequest& request, const QByteArray& verb,
                                          const QByteArray& body = QByteArray());
 };

@@ -24,16 +24,19 @@ class QObject;
 /// transfer runs, encrypted() when a secure connection is set up; on failure
 /// `error(code)` and then `finished()`, on success `finished()` alone. A
 /// transfer aborted by abort() or by its time-out reports
-/// `error(OperationCanceledError)` and then `finished()`. While the reply's
-/// signals are blocked nothing is emitted (nor queued), but isFinished() and
-/// the headers are still kept.
+/// `error(OperationCanceledError)` and then `finished()`. Each transfer
+/// reports `finished()` exactly once, however it ends (see \ref
+/// services_ends). While the reply's signals are blocked nothing is emitted
+/// (nor queued), but isFinished() and the headers are still kept.
 ///
 /// Two reports come only to clients that ask for them. sslErrors() comes
 /// when the server's certificate is not trusted, before encrypted() or the
 /// `error(SslHandshakeFailedError)` that follows unless the slot calls
 /// ignoreSslErrors(). readyRead() comes only for a request with
 /// CKyNANetworkRequest::setStreaming(), each time body data arrives, before
-/// finished().
+/// finished(). A streaming reply holds at most 1 MiB of unread body: while
+/// that much waits, nothing more is read from the server, so a slow reader
+/// slows the transfer down instead of filling memory.
 ///
 /// **Lifetime.** Delete the reply when done, and before its manager; the
 /// toolkit reply goes on the next pass of the event loop. Deleting the reply
@@ -120,13 +123,16 @@ public:
     /// The toolkit's text for the error; empty without a toolkit reply.
     QString errorString() const;
 
-    /// Read from the toolkit reply once error() or finished() was reported;
-    /// neutral values before.
+    /// Unread bytes of the body: from the start for a streaming request
+    /// (CKyNANetworkRequest::setStreaming()), else once error() or
+    /// finished() was reported; 0 before.
     long long bytesAvailable() const;
-    /// The body received so far, once error() or finished() was reported; an
-    /// empty array before, even if data has arrived.
+    /// The unread body received so far: from the start for a streaming
+    /// request, else once error() or finished() was reported; an empty array
+    /// before, even if data has arrived.
     QByteArray readAll();
-    /// The read position in the body; 0 before error() or finished().
+    /// Always 0 in practice: the body is a stream without positions, read in
+    /// order (seek() fails).
     long long pos() const;
     /// Moves the read position; false before error() or finished().
     bool seek(long long pos);
@@ -139,9 +145,11 @@ public:
     /// values, like the other reads.
     QByteArray read(long long maxSize);
 
-    /// The URL the body came from: the request's URL, or the target of the
-    /// last redirect followed (CKyNANetworkRequest::setFollowRedirects());
-    /// empty without a toolkit reply.
+    /// The URL of the last request this transfer made: the request's URL, or
+    /// the target of the last redirect followed
+    /// (CKyNANetworkRequest::setFollowRedirects()). A redirect that was not
+    /// followed (too many, or from https to http) is never fetched: url() then
+    /// names the page that answered with it. Empty without a toolkit reply.
     QUrl url() const;
 
     /// Accepts every TLS error of this transfer's certificate check; call it
@@ -189,7 +197,8 @@ public:
     CKyUISignal<void(long long, long long)>& downloadProgress();
     /// Bytes sent and bytes in total, while the upload runs.
     CKyUISignal<void(long long, long long)>& uploadProgress();
-    /// Emitted when a secure connection has been set up.
+    /// Emitted when a secure connection has been set up; once per transfer,
+    /// also when it follows redirects.
     CKyUISignal<void()>& encrypted();
     /// Emitted with the error code when the transfer fails, before finished().
     /// From here on the body is readable.

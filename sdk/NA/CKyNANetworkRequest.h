@@ -128,7 +128,9 @@ public:
     /// is aborted, reporting `error(OperationCanceledError)` and then
     /// `finished()` like the whole-transfer time-out; 0 or less (the default)
     /// sets no such bound. Both bounds apply together: use this one for long
-    /// downloads and a generous requestTimeout().
+    /// downloads and a generous requestTimeout(). Neither fires before its
+    /// time. A streaming reader that leaves its full buffer unread for this
+    /// long counts as silence too.
     void setInactivityTimeout(int ms);
     /// The stored inactivity time-out; 0 unless set.
     int inactivityTimeout() const;
@@ -154,7 +156,18 @@ public:
     /// answer, and CKyNANetworkReply::url() tells where it came from. A
     /// redirect from https to http fails with InsecureRedirectError unless
     /// setAllowInsecureRedirects() says otherwise; more than
-    /// maximumRedirects() redirects fail with TooManyRedirectsError.
+    /// maximumRedirects() redirects fail with TooManyRedirectsError. A 3xx
+    /// without a usable Location is the answer, status and body intact.
+    ///
+    /// Credentials stay with their origin: when a redirect leads to another
+    /// origin (scheme, host or port differs), the next request and all after
+    /// it carry no Authorization, Proxy-Authorization or Cookie header. On
+    /// the same origin they stay. A client that means to send its credentials
+    /// elsewhere leaves following off and makes the next request itself.
+    ///
+    /// 307 and 308 repeat the request with its method and body; the other
+    /// redirects turn it into a GET without a body (a HEAD stays a HEAD). The
+    /// time-outs bound all the requests together.
     void setFollowRedirects(bool follow);
     /// Whether redirects are followed; false unless set.
     bool followRedirects() const;
@@ -170,8 +183,9 @@ public:
     /// Makes the reply report CKyNANetworkReply::readyRead() each time body
     /// data arrives and makes the body readable at once, so that a client
     /// consumes a large body while it arrives instead of holding all of it
-    /// until finished(). Off by default: no readyRead(), nothing readable
-    /// before error() or finished().
+    /// until finished(). The reply then holds at most 1 MiB of unread body
+    /// and reads more from the server as the client reads. Off by default:
+    /// no readyRead(), nothing readable before error() or finished().
     void setStreaming(bool streaming);
     /// Whether the reply streams its body; false unless set.
     bool streaming() const;

@@ -118,3 +118,25 @@ TEST_F(ReplyTimeout, TimerFollowsTheRequestOrFallsBackTo30Seconds)
     CKyNANetworkReplyTimeout orphan(nullptr, 1);
     EXPECT_FALSE(orphan.isActive());
 }
+
+// A coarse timer may fire up to 5 % early, depending on the moment it starts: sixteen transfers
+// started a few milliseconds apart catch that, for either bound.
+TEST_F(ReplyTimeout, NeitherBoundFiresEarly)
+{
+    for (const bool silence : {false, true}) {
+        request.setInactivityTimeout(silence ? 230 : 0);
+        std::vector<std::unique_ptr<CKyNANetworkReply>> replies;
+        std::vector<qint64> ended;
+        for (int i = 0; i < 16; ++i) {
+            QTimer::singleShot(7 * i, Qt::PreciseTimer, [&] {
+                QElapsedTimer clock;
+                clock.start();
+                replies.push_back(start("/stall", silence ? 30000 : 230));
+                replies.back()->error().connect([&, clock](int) { ended.push_back(clock.nsecsElapsed()); });
+            });
+        }
+        ASSERT_TRUE(waitUntil([&] { return ended.size() == 16; }));
+        for (const qint64 ns : ended)
+            EXPECT_GE(ns, 230 * 1000000LL) << silence;
+    }
+}

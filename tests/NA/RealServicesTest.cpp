@@ -7,9 +7,10 @@
 namespace
 {
 
-// Trust and Client imply https; OneHop allows one redirect instead of two.
+// Trust and Client imply https; OneHop allows one redirect instead of two; Custom sends the verb
+// with sendCustomRequest, even GET and HEAD.
 constexpr int Https = 1, Trust = 3, Client = 5, IgnoreAll = 8, IgnoreListed = 16, Follow = 32, Downgrade = 64,
-              OneHop = 128, Stream = 256;
+              OneHop = 128, Stream = 256, Custom = 512;
 
 QStringList g_warnings;
 
@@ -46,37 +47,67 @@ protected:
     }
 
     // One transfer on a fresh connection: what it reported (and where it ended, and whether it
-    // streamed in pieces) and, in `body`, all it delivered.
-    QStringList run(CKyNANetworkRequest& request, const QByteArray& verb, int options = 0)
+    // streamed in pieces) and, in `body`, all it delivered; its error() in `code` (-1 once deleted).
+    // An action, "abort" (asked for twice) or "delete", runs in the slot of the report `at` (or
+    // right after the start), after that report was recorded. Whatever came late would have come
+    // by the time the local server has no connection left.
+    QStringList run(CKyNANetworkRequest& request, const QByteArray& verb, int options = 0,
+                    const QString& at = QString(), const QString& action = QString())
     {
         CKyNANetworkAccessManager manager;
-        std::unique_ptr<CKyNANetworkReply> reply(verb == "GET" ? manager.get(request)
-                                                 : verb == "HEAD"
-                                                     ? manager.head(request)
-                                                     : manager.sendCustomRequest(request, verb, "x"));
+        const QByteArray plain = options & Custom ? "" : verb;
+        CKyNANetworkReply* reply = plain == "GET"    ? manager.get(request)
+                                   : plain == "HEAD" ? manager.head(request)
+                                                     : manager.sendCustomRequest(request, verb, "x");
         Recorder recorder;
-        RecordReply(recorder, reply.get());
+        RecordReply(recorder, reply);
         int pieces = 0;
         body.clear();
-        reply->readyRead().connect([&] { body += reply->read(50000), ++pieces; });
+        const auto act = [&](const QString& report) {
+            if (report != at || recorder.has(action))
+                return;
+            recorder.add(action);
+            if (action == "abort")
+                return reply->abort(), reply->abort();
+            delete reply;
+            reply = nullptr;
+        };
+        // Readable before the end, piece by piece or all there is.
+        reply->readyRead().connect(
+            [&] { body += pieces++ % 2 ? reply->readAll() : reply->read(50000), act("readyRead"); });
         reply->sslErrors().connect([&](const QList<QSslError>& errors) {
             recorder.add(QStringLiteral("sslErrors"), !errors.isEmpty());
             if (options & IgnoreAll)
                 reply->ignoreSslErrors();
             if (options & IgnoreListed)
                 reply->ignoreSslErrors(errors);
+            act("sslErrors");
         });
-        EXPECT_TRUE(waitUntil([&] { return recorder.has(QStringLiteral("finished")); }, 10000));
-        EXPECT_FALSE(reply->seek(0));
-        body += reply->readAll();
-        recorder.add(QStringLiteral("at"), reply->url().path(), pieces > 1);
+        reply->downloadProgress().connect([&](long long, long long) { act("downloadProgress"); });
+        reply->uploadProgress().connect([&](long long, long long) { act("uploadProgress"); });
+        reply->encrypted().connect([&] { act("encrypted"); });
+        reply->error().connect([&](int) { act("error"); });
+        reply->finished().connect([&] { act("finished"); });
+        act("start");
+        EXPECT_TRUE(waitUntil([&] { return !reply || reply->isFinished(); }, 10000));
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_TRUE(waitUntil([&] { return local.openConnections() == 0; }));
+        code = reply ? int(errorCode(*reply)) : -1;
+        if (reply) {
+            EXPECT_FALSE(reply->seek(0));
+            body += reply->readAll();
+            recorder.add(QStringLiteral("at"), reply->url().path(), pieces > 1);
+        }
+        delete reply;
         return Outcome(recorder);
     }
 
     QTemporaryDir dir;
     QProcess nginx;
     QStringList ports;
+    HttpTestServer local;
     QByteArray body;
+    int code = 0;
 };
 
 } // namespace
@@ -100,9 +131,11 @@ TEST_F(RealServices, TlsRedirectsMethodsEncodingsAndStreaming)
         {"/client", Trust | Client, "GET", tls, "SUCCESS"},
         {"/moved", 0, "HEAD", {"finished", "at:/moved,false"}, ""},
         {"/moved", Follow, "HEAD", hello, ""},
+        {"/hello.txt", Custom, "HEAD", hello, ""},
         {"/twice", Follow, "GET", hello, "hello\n"},
         {"/twice", Follow | OneHop, "GET", {"error:10", "finished", "at:/found,false"}, ""},
-        {"/to-http", Trust | Follow, "GET", {"encrypted", "error:11", "finished", "at:/hello.txt,false"}, ""},
+        // Refused: it ends where it was, never having fetched the http page.
+        {"/to-http", Trust | Follow, "GET", {"encrypted", "error:11", "finished", "at:/to-http,false"}, ""},
         {"/to-http", Trust | Follow | Downgrade, "GET", QStringList{"encrypted"} + hello, "hello\n"},
         {"/method", 0, "PATCH", {"finished", "at:/method,false"}, "PATCH"},
         {"/method", 0, "OPTIONS", {"finished", "at:/method,false"}, "OPTIONS"},
@@ -131,7 +164,6 @@ TEST_F(RealServices, TlsRedirectsMethodsEncodingsAndStreaming)
 
 TEST_F(RealServices, TimeOutsBoundTheWholeTransferAndEachSilence)
 {
-    HttpTestServer local;
     using Mode = HttpTestServer::Mode;
     const struct
     {
@@ -161,4 +193,138 @@ TEST_F(RealServices, TimeOutsBoundTheWholeTransferAndEachSilence)
         EXPECT_EQ(run(request, c.verb).mid(0, 2), (QStringList{"error:5", "finished"})) << c.atLeastMs;
         EXPECT_GE(clock.elapsed(), c.atLeastMs);
     }
+}
+
+// Every way a transfer ends, and what its client hears: the stated error and exactly one
+// finished(), however late one would come; or nothing after a slot deleted the reply. After "=":
+// error(), or -1 once deleted.
+TEST_F(RealServices, EachWayATransferEndsGivesItsErrorAndOneFinished)
+{
+    local.setRoute("/ok", {HttpTestServer::Mode::Answer, {}, "ok"});
+    local.setRoute("/stall", {HttpTestServer::Mode::Stall, {}, {}});
+    local.setRoute("/trickle", {HttpTestServer::Mode::Trickle, {}, {}});
+    for (const QByteArray route :
+         {"/ftp 302 Found\r\nLocation: ftp://127.0.0.1/", "/hop 307 Again\r\nLocation: /trickle",
+          "/bare 302 Found", "/blank 303 See Other\r\nLocation: "}) {
+        const int space = route.indexOf(' ');
+        local.setRoute(route.left(space),
+                       {HttpTestServer::Mode::Malformed,
+                        {},
+                        "HTTP/1.1 " + route.mid(space + 1) + "\r\nContent-Length: 5\r\n\r\nmoved"});
+    }
+    // Whole: a short whole-transfer bound (the time-outs have a table of their own, above); Post:
+    // a custom POST of one byte; https is nginx's.
+    constexpr int Whole = 2048, Post = 8192;
+    const struct
+    {
+        const char* path;
+        int options;
+        QString at; // the report in whose slot the action runs, or "start"
+        QString action;
+        QString outcome;
+    } cases[] = {
+        {"/ok", 0, "finished", "abort", "finished abort at:/ok,false =0"},
+        {"/stall", 0, "start", "abort", "abort error:5 finished at:/stall,false =5"},
+        {"/trickle", 0, "downloadProgress", "abort", "abort error:5 finished at:/trickle,false =5"},
+        {"/stall", Post, "uploadProgress", "abort", "abort error:5 finished at:/stall,false =5"},
+        {"/trickle", Stream, "readyRead", "abort", "abort error:5 finished at:/trickle,false =5"},
+        {"/hello.txt", Trust, "encrypted", "abort",
+         "encrypted abort error:5 finished at:/hello.txt,false =5"},
+        {"/hello.txt", Https, "sslErrors", "abort",
+         "sslErrors:true abort error:5 finished at:/hello.txt,false =5"},
+        // Failed already: the toolkit keeps the first error and finishes at once.
+        {"/missing", 0, "error", "abort", "error:203 abort finished at:/missing,false =203"},
+        {"/ftp", Follow, "error", "abort", "error:301 abort finished at:/ftp,false =301"},
+        // The redirect's own body is not reported: the abort comes on the next request's.
+        {"/hop", Follow | Post, "downloadProgress", "abort", "abort error:5 finished at:/trickle,false =5"},
+        {"/hop", Follow | Whole, "", "", "error:5 finished at:/trickle,false =5"},
+        // A redirect that says nowhere is the answer, body included.
+        {"/bare", Follow, "", "", "finished at:/bare,false moved =0"},
+        {"/blank", Follow, "", "", "finished at:/blank,false moved =0"},
+        {"/trickle", 0, "downloadProgress", "delete", "delete =-1"},
+        {"/stall", Post, "uploadProgress", "delete", "delete =-1"},
+        {"/trickle", Stream, "readyRead", "delete", "delete =-1"},
+        {"/hello.txt", Trust, "encrypted", "delete", "encrypted delete =-1"},
+        {"/hello.txt", Https, "sslErrors", "delete", "sslErrors:true delete =-1"},
+        {"/missing", 0, "error", "delete", "error:203 delete =-1"},
+        {"/ok", 0, "finished", "delete", "finished delete =-1"},
+        {"/ftp", Follow, "error", "delete", "error:301 delete =-1"},
+    };
+    for (const auto& c : cases) {
+        CKyNANetworkRequest request(c.options & Https ? url(c.path, true) : local.url(c.path));
+        if ((c.options & Trust) == Trust)
+            request.setCaCertificates(QSslCertificate::fromData(file("ca.pem")));
+        request.setStreaming(c.options & Stream);
+        request.setFollowRedirects(c.options & Follow);
+        request.setRequestTimeout(c.options & Whole ? 300 : 10000);
+        QStringList outcome = run(request, c.options & Post ? "POST" : "GET", c.options, c.at, c.action);
+        if (body == "moved")
+            outcome << body;
+        EXPECT_EQ((outcome << QStringLiteral("=%1").arg(code)).join(' ').toStdString(),
+                  c.outcome.toStdString());
+        // The toolkit's own words when abort(), handed on as it is, comes after its error.
+        g_warnings.removeAll(
+            "QNetworkReplyImplPrivate::error: Internal problem, this method must only be called once.");
+    }
+}
+
+// Against redirect_peer.py: two ports on 127.0.0.1 that redirect as told and echo the request that
+// reaches /headers. A missing interpreter fails here.
+TEST(RedirectCredentials, NeverLeaveTheOriginTheClientAddressed)
+{
+    QProcess peer;
+    peer.start(QStringLiteral("/usr/bin/python3"),
+               {QStringLiteral(COMMONUI_TESTS_DIR "/NA/redirect_peer.py")});
+    waitUntil([&] { return peer.canReadLine() || peer.state() == QProcess::NotRunning; }, 20000);
+    const QStringList ports = QString::fromLatin1(peer.readLine()).trimmed().split(QLatin1Char(' '));
+    ASSERT_EQ(ports.size(), 2) << peer.readAllStandardError().toStdString();
+    const QString a = "http://127.0.0.1:" + ports[0], b = "http://127.0.0.1:" + ports[1],
+                  host = "http://localhost:" + ports[0], echo = "/headers";
+    const auto to = [](int code, const QString& target) {
+        return QStringLiteral("/to/%1/").arg(code) + QString::fromLatin1(QUrl::toPercentEncoding(target));
+    };
+    // What reached /headers: the method, whether the credentials came along, the type and the body.
+    const struct
+    {
+        int code;
+        QByteArray verb;
+        QString target;
+        QString seen;
+    } cases[] = {
+        {302, "GET", a + echo, "GET credentials:3"},
+        {307, "POST", a + echo, "POST credentials:3 typed body"},
+        {301, "GET", b + echo, "GET credentials:0"},
+        // 307 and 308 repeat a POST, body and type; the others turn it into a bare GET.
+        {302, "POST", b + echo, "GET credentials:0"},
+        {308, "POST", b + echo, "POST credentials:0 typed body"},
+        {307, "POST", host + echo, "POST credentials:0 typed body"},
+        {308, "GET", host + echo, "GET credentials:0"},
+        // Gone once the transfer left the origin, also on the way back.
+        {303, "GET", b + to(302, a + echo), "GET credentials:0"},
+    };
+    CKyNANetworkAccessManager manager;
+    for (const auto& c : cases) {
+        CKyNANetworkRequest request(QUrl(a + to(c.code, c.target)));
+        for (const QByteArray header : {"Authorization:Bearer secret", "proxy-authorization:Basic cHJveHk=",
+                                        "Cookie:session=1", "X-Kept:yes"})
+            request.setRawHeader(header.split(':')[0], header.split(':')[1]);
+        if (c.verb == "POST")
+            request.setHeader(CKyNANetworkRequest::ContentTypeHeader, QByteArray("text/plain"));
+        request.setFollowRedirects(true);
+        std::unique_ptr<CKyNANetworkReply> reply(
+            c.verb == "GET" ? manager.get(request) : manager.post(request, QByteArray("payload")));
+        Recorder recorder;
+        ASSERT_TRUE(waitFinished(RecordReply(recorder, reply.get())));
+        const QByteArray got = reply->readAll();
+        const int credentials =
+            got.contains("Bearer secret") + got.contains("cHJveHk=") + got.contains("session=1");
+        const QString seen = got.left(got.indexOf(" /headers ")) +
+                             QStringLiteral(" credentials:%1").arg(credentials) +
+                             (got.contains("Content-Type: text/plain") ? " typed" : "") +
+                             (got.endsWith("\r\n\r\npayload") ? " body" : "");
+        EXPECT_EQ(seen.toStdString(), c.seen.toStdString()) << c.code << ' ' << c.target.toStdString();
+        EXPECT_TRUE(got.contains("X-Kept: yes") && Outcome(recorder) == QStringList{"finished"});
+    }
+    peer.closeWriteChannel();
+    peer.waitForFinished(5000);
 }

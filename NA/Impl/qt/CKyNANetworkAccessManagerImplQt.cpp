@@ -10,18 +10,24 @@
 #include <QtNetwork/QNetworkReply>
 #include <QtNetwork/QNetworkRequest>
 
+#include <memory>
+
 namespace
 {
 
 // The one start path of every transfer; the six steps differ only in the
-// toolkit call they hand in.
+// toolkit call they hand in, and in the upload a followed 307 or 308 sends
+// again.
 template <typename Send>
-CKyNANetworkReply* StartTransfer(const CKyUIObject* owner, const CKyNANetworkRequest& request, Send send)
+CKyNANetworkReply* StartTransfer(const CKyUIObject* owner, const CKyNANetworkRequest& request, Send send,
+                                 const QByteArray* body = nullptr, QIODevice* device = nullptr)
 {
     auto* manager = qobject_cast<QNetworkAccessManager*>(owner->getHandle());
     QNetworkRequest* toolkitRequest = request.getHandle();
     if (!manager || !toolkitRequest)
         return nullptr;
+    // Read before the toolkit may read from it.
+    const long long devicePos = device ? device->pos() : 0;
     QNetworkReply* reply = send(*manager, *toolkitRequest);
     if (!reply)
         return nullptr;
@@ -30,18 +36,29 @@ CKyNANetworkReply* StartTransfer(const CKyUIObject* owner, const CKyNANetworkReq
     auto* guard = new CKyNANetworkReplyTimeout(reply, timeout);
     if (request.inactivityTimeout() > 0)
         guard->watchInactivity(request.inactivityTimeout());
-    // A downgrade the client allowed is confirmed each time the toolkit asks.
-    if (toolkitRequest->attribute(QNetworkRequest::RedirectPolicyAttribute).toInt() ==
-        QNetworkRequest::UserVerifiedRedirectPolicy)
-        QObject::connect(reply, &QNetworkReply::redirected, reply, &QNetworkReply::redirectAllowed);
     // Made before the public reply connects its own handlers, so the timer is
     // stopped before anyone hears of the finish.
     QObject::connect(
         reply, &QNetworkReply::finished, reply, [guard] { guard->stop(); }, Qt::DirectConnection);
     auto* result = new CKyNANetworkReply(reply);
     result->setRequest(request);
+    auto* impl = static_cast<CKyNANetworkReplyImpl*>(result->impl());
     if (request.streaming())
-        static_cast<CKyNANetworkReplyImpl*>(result->impl())->StartStreaming();
+        impl->StartStreaming();
+    // The toolkit only reports redirects: it would carry the credentials
+    // along to any other server.
+    if (request.followRedirects()) {
+        std::unique_ptr<CKyNANetworkReplyImpl::Redirects> redirects(new CKyNANetworkReplyImpl::Redirects);
+        redirects->left = request.maximumRedirects();
+        redirects->allowInsecure = request.allowInsecureRedirects();
+        if (body)
+            redirects->body = *body;
+        redirects->fromDevice = device != nullptr;
+        redirects->device = device;
+        redirects->devicePos = devicePos;
+        redirects->guard = guard;
+        impl->FollowRedirects(std::move(redirects));
+    }
     return result;
 }
 
@@ -78,32 +95,36 @@ CKyNANetworkReply* CKyNANetworkAccessManagerImpl::GetImpl(const CKyNANetworkRequ
 CKyNANetworkReply* CKyNANetworkAccessManagerImpl::PostImpl(const CKyNANetworkRequest& request,
                                                            QIODevice* data)
 {
-    return StartTransfer(owner(), request, [data](QNetworkAccessManager& manager, const QNetworkRequest& r) {
-        return manager.post(r, data);
-    });
+    return StartTransfer(
+        owner(), request,
+        [data](QNetworkAccessManager& manager, const QNetworkRequest& r) { return manager.post(r, data); },
+        nullptr, data);
 }
 
 CKyNANetworkReply* CKyNANetworkAccessManagerImpl::PostImpl(const CKyNANetworkRequest& request,
                                                            const QByteArray& data)
 {
-    return StartTransfer(owner(), request, [&data](QNetworkAccessManager& manager, const QNetworkRequest& r) {
-        return manager.post(r, data);
-    });
+    return StartTransfer(
+        owner(), request,
+        [&data](QNetworkAccessManager& manager, const QNetworkRequest& r) { return manager.post(r, data); },
+        &data);
 }
 
 CKyNANetworkReply* CKyNANetworkAccessManagerImpl::PutImpl(const CKyNANetworkRequest& request, QIODevice* data)
 {
-    return StartTransfer(owner(), request, [data](QNetworkAccessManager& manager, const QNetworkRequest& r) {
-        return manager.put(r, data);
-    });
+    return StartTransfer(
+        owner(), request,
+        [data](QNetworkAccessManager& manager, const QNetworkRequest& r) { return manager.put(r, data); },
+        nullptr, data);
 }
 
 CKyNANetworkReply* CKyNANetworkAccessManagerImpl::PutImpl(const CKyNANetworkRequest& request,
                                                           const QByteArray& data)
 {
-    return StartTransfer(owner(), request, [&data](QNetworkAccessManager& manager, const QNetworkRequest& r) {
-        return manager.put(r, data);
-    });
+    return StartTransfer(
+        owner(), request,
+        [&data](QNetworkAccessManager& manager, const QNetworkRequest& r) { return manager.put(r, data); },
+        &data);
 }
 
 CKyNANetworkReply* CKyNANetworkAccessManagerImpl::DeleteResourceImpl(const CKyNANetworkRequest& request)
@@ -124,8 +145,12 @@ CKyNANetworkReply* CKyNANetworkAccessManagerImpl::SendCustomRequestImpl(const CK
                                                                         const QByteArray& verb,
                                                                         const QByteArray& body)
 {
-    return StartTransfer(owner(), request,
-                         [&verb, &body](QNetworkAccessManager& manager, const QNetworkRequest& r) {
-                             return manager.sendCustomRequest(r, verb, body);
-                         });
+    // The toolkit takes a custom HEAD for a request whose answer has a body,
+    // and would wait for one.
+    return StartTransfer(
+        owner(), request,
+        [&verb, &body](QNetworkAccessManager& manager, const QNetworkRequest& r) {
+            return verb == "HEAD" ? manager.head(r) : manager.sendCustomRequest(r, verb, body);
+        },
+        &body);
 }

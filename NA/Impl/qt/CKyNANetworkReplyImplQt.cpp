@@ -1,5 +1,8 @@
 #include "NA/Impl/CKyNANetworkReplyImpl.h"
 
+#include "NA/Impl/qt/CKyNANetworkReplyTimeout.h"
+
+#include <QtNetwork/QNetworkAccessManager>
 #include <QtNetwork/QNetworkReply>
 #include <QtNetwork/QNetworkRequest>
 
@@ -55,6 +58,45 @@ int ToolkitAttribute(int code)
 #endif
 }
 
+// The answers the toolkit would take for a redirect.
+bool IsRedirect(int status)
+{
+    return status == 301 || status == 302 || status == 303 || status == 305 || status == 307 || status == 308;
+}
+
+int StatusOf(const QNetworkReply* reply)
+{
+    return reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+}
+
+bool SameOrigin(const QUrl& a, const QUrl& b)
+{
+    const int port = a.scheme() == QLatin1String("https") ? 443 : 80;
+    return a.scheme() == b.scheme() && a.host() == b.host() && a.port(port) == b.port(port);
+}
+
+// What may identify the client to a server: never sent to another origin
+// than the one the client addressed.
+void DropCredentials(QNetworkRequest& request)
+{
+    for (const QByteArray& name : request.rawHeaderList()) {
+        const char* text = name.constData();
+        if (qstricmp(text, "Authorization") == 0 || qstricmp(text, "Proxy-Authorization") == 0 ||
+            qstricmp(text, "Cookie") == 0)
+            request.setRawHeader(name, QByteArray()); // a null value removes the header
+    }
+}
+
+// Where the answer at hand redirects to, if it is a redirect to follow at
+// all: an invalid URL otherwise, and then the answer is the client's.
+QUrl RedirectTarget(const QNetworkReply* reply)
+{
+    if (!IsRedirect(StatusOf(reply)))
+        return QUrl();
+    const QByteArray location = reply->rawHeader("Location");
+    return location.isEmpty() ? QUrl() : QUrl::fromEncoded(location);
+}
+
 } // namespace
 
 void CKyNANetworkReplyImpl::ConnectNetworkReplySignalsImpl()
@@ -88,8 +130,10 @@ void CKyNANetworkReplyImpl::ConnectNetworkReplySignalsImpl()
     m_connections << QObject::connect(
         reply, &QNetworkReply::finished, reply,
         [this, reply] {
-            OnFinished(reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt(),
-                       reply->rawHeaderPairs(), reply);
+            // Only a transfer that follows redirects ever skips a body.
+            if (m_skipBody && FollowImpl(reply))
+                return;
+            OnFinished(StatusOf(reply), reply->rawHeaderPairs(), reply);
         },
         Qt::DirectConnection);
     // Only a client that listens can accept the errors; without one the
@@ -103,6 +147,8 @@ void CKyNANetworkReplyImpl::ConnectNetworkReplySignalsImpl()
         owner()->setHandle(nullptr);
         m_device = nullptr;
     });
+    if (m_redirects)
+        FollowRedirectsImpl();
 }
 
 void CKyNANetworkReplyImpl::DestroyNetworkReplyImpl()
@@ -173,6 +219,110 @@ void CKyNANetworkReplyImpl::StartStreamingImpl()
         return;
     // The body is readable from now on, not only from error or finish.
     m_device = reply;
+    // Back-pressure: past this, the toolkit leaves the rest with the server
+    // until the client has read.
+    reply->setReadBufferSize(StreamingBufferBytes);
     m_connections << QObject::connect(
         reply, &QIODevice::readyRead, reply, [this] { OnReadyRead(); }, Qt::DirectConnection);
+}
+
+void CKyNANetworkReplyImpl::FollowRedirectsImpl()
+{
+    QNetworkReply* reply = toolkitReply(owner());
+    if (!reply)
+        return;
+    // Told before any of the answer's body, which then stays out of sight.
+    m_connections << QObject::connect(
+        reply, &QNetworkReply::metaDataChanged, reply,
+        [this, reply] {
+            if (RedirectTarget(reply).isValid())
+                OnRedirectArrived();
+        },
+        Qt::DirectConnection);
+}
+
+bool CKyNANetworkReplyImpl::FollowImpl(QObject* toolkitReply)
+{
+    auto* reply = static_cast<QNetworkReply*>(toolkitReply);
+    Redirects& redirects = *m_redirects;
+    m_skipBody = false;
+    // Failed or aborted while the redirect arrived: it ends as such.
+    if (reply->error() != QNetworkReply::NoError)
+        return false;
+    const QUrl location = RedirectTarget(reply);
+    const int status = StatusOf(reply);
+    const auto refuse = [&](CKyNANetworkReply::NetworkError code, const char* text) {
+        OnRedirectRefused(code, QString::fromLatin1(text), status, reply->rawHeaderPairs());
+        return true;
+    };
+    if (redirects.left <= 0)
+        return refuse(CKyNANetworkReply::TooManyRedirectsError, "Too many redirects");
+    const QUrl url = reply->url();
+    const QUrl target = url.resolved(location);
+    if (target.scheme() != QLatin1String("http") && target.scheme() != QLatin1String("https"))
+        return refuse(CKyNANetworkReply::ProtocolUnknownError, "Unknown protocol specified");
+    if (url.scheme() == QLatin1String("https") && target.scheme() == QLatin1String("http") &&
+        !redirects.allowInsecure)
+        return refuse(CKyNANetworkReply::InsecureRedirectError, "Insecure redirect");
+    auto* guard = qobject_cast<CKyNANetworkReplyTimeout*>(redirects.guard.data());
+    if (guard && guard->expired())
+        return refuse(CKyNANetworkReply::OperationCanceledError, "Operation canceled");
+
+    QNetworkRequest request = reply->request();
+    request.setUrl(target);
+    if (!SameOrigin(url, target))
+        DropCredentials(request);
+    QNetworkAccessManager::Operation operation = reply->operation();
+    // 307 and 308 repeat the request as it was; the others turn it into a
+    // GET without a body, a HEAD excepted.
+    const bool repeat = status == 307 || status == 308;
+    if (!repeat && operation != QNetworkAccessManager::HeadOperation) {
+        operation = QNetworkAccessManager::GetOperation;
+        request.setHeader(QNetworkRequest::ContentTypeHeader, QVariant());
+        request.setHeader(QNetworkRequest::ContentLengthHeader, QVariant());
+    }
+    QIODevice* device = redirects.device;
+    const bool sendsBody =
+        operation == QNetworkAccessManager::PostOperation || operation == QNetworkAccessManager::PutOperation;
+    // An upload from a device goes again only if the device can go back.
+    if (sendsBody && redirects.fromDevice &&
+        (!device || device->isSequential() || !device->seek(redirects.devicePos)))
+        return refuse(CKyNANetworkReply::ContentReSendError, "Cannot send the upload again");
+
+    QNetworkAccessManager* manager = reply->manager();
+    QNetworkReply* next = nullptr;
+    switch (operation) {
+    case QNetworkAccessManager::HeadOperation:
+        next = manager->head(request);
+        break;
+    case QNetworkAccessManager::PostOperation:
+        next = device ? manager->post(request, device) : manager->post(request, redirects.body);
+        break;
+    case QNetworkAccessManager::PutOperation:
+        next = device ? manager->put(request, device) : manager->put(request, redirects.body);
+        break;
+    case QNetworkAccessManager::DeleteOperation:
+        next = manager->deleteResource(request);
+        break;
+    case QNetworkAccessManager::CustomOperation:
+        next = manager->sendCustomRequest(
+            request, request.attribute(QNetworkRequest::CustomVerbAttribute).toByteArray(), redirects.body);
+        break;
+    default:
+        next = manager->get(request);
+        break;
+    }
+    --redirects.left;
+    // The guard first: its stop must come before this reply's own handlers.
+    if (guard)
+        guard->follow(next);
+    for (const QMetaObject::Connection& connection : qAsConst(m_connections))
+        QObject::disconnect(connection);
+    m_connections.clear();
+    reply->deleteLater();
+    owner()->setHandle(next);
+    ConnectNetworkReplySignalsImpl();
+    if (m_streaming)
+        StartStreamingImpl();
+    return true;
 }

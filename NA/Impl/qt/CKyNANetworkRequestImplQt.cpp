@@ -95,15 +95,7 @@ void CKyNANetworkRequestImpl::SetSslConfigurationImpl()
 
 void CKyNANetworkRequestImpl::SetRedirectPolicyImpl()
 {
-    QNetworkRequest* request = m_owner->getHandle();
-    if (!request)
-        return;
-    // A permitted downgrade is confirmed redirect by redirect when the
-    // transfer starts; the toolkit has no policy that simply allows it.
-    QNetworkRequest::RedirectPolicy policy = QNetworkRequest::ManualRedirectPolicy;
-    if (m_followRedirects)
-        policy = m_allowInsecureRedirects ? QNetworkRequest::UserVerifiedRedirectPolicy
-                                          : QNetworkRequest::NoLessSafeRedirectPolicy;
-    request->setAttribute(QNetworkRequest::RedirectPolicyAttribute, policy);
-    request->setMaximumRedirectsAllowed(m_maximumRedirects);
+    // Nothing reaches the toolkit: it keeps reporting redirects, and the
+    // reply follows them itself (the toolkit would carry the credentials
+    // along to another origin).
 }
