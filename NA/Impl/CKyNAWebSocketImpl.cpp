@@ -32,6 +32,12 @@ void CKyNAWebSocketImpl::open(const CKyNANetworkRequest& request)
     m_closing = false;
     m_closeCode = CKyNAWebSocketProtocol::CloseCode(0);
     m_closeReason.clear();
+    // The toolkit would hold errors listed as ignored for every later
+    // handshake.
+    if (m_ignoredListedErrors) {
+        m_ignoredListedErrors = false;
+        IgnoreSslErrorsImpl(QList<QSslError>());
+    }
     // Armed first: the toolkit may refuse the request from inside open(), and
     // a slot may delete us there.
     if (m_handshakeTimeout > 0)
@@ -61,8 +67,10 @@ void CKyNAWebSocketImpl::ignoreSslErrors()
 
 void CKyNAWebSocketImpl::ignoreSslErrors(const QList<QSslError>& errors)
 {
-    if (m_reportingSslErrors)
-        IgnoreSslErrorsImpl(errors);
+    if (!m_reportingSslErrors)
+        return;
+    m_ignoredListedErrors = true;
+    IgnoreSslErrorsImpl(errors);
 }
 
 void CKyNAWebSocketImpl::SetHandshakeTimeout(int ms)

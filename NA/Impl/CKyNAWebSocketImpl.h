@@ -70,6 +70,7 @@ private:
     bool m_closing = false;
     // Errors may be ignored only for the handshake that reports them.
     bool m_reportingSslErrors = false;
+    bool m_ignoredListedErrors = false;
     CKyNAWebSocketProtocol::CloseCode m_closeCode = CKyNAWebSocketProtocol::CloseCode(0);
     QString m_closeReason;
 };

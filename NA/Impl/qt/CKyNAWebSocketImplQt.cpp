@@ -103,9 +103,6 @@ void CKyNAWebSocketImpl::OpenImpl(const CKyNANetworkRequest& request)
     const bool own = configuration != QSslConfiguration::defaultConfiguration();
     if (own || !socket->sslConfiguration().isNull())
         socket->setSslConfiguration(own ? configuration : QSslConfiguration());
-    // The toolkit would apply errors listed as ignored for an earlier
-    // handshake to this one too.
-    socket->ignoreSslErrors(QList<QSslError>());
 #endif
     socket->open(*toolkitRequest);
 }
