@@ -8,7 +8,7 @@ HTML comment, which neither Doxygen nor a Markdown viewer shows:
   (no tag)                    a whole file: includes, classes, functions.
   <!-- snippet: body -->      statements: compiled as the body of a member
                               function of the plug-in object `Owner` in
-                              tests/docs/SnippetContext.h, so the block may use
+                              docs/tools/SnippetContext.h, so the block may use
                               its members (manager, request, reply, socket,
                               dialog, file, ...) and helpers (handle, report,
                               consume, ...) without declaring them.
@@ -176,7 +176,7 @@ def check(root):
                 counts[block.kind] += 1
         problems += [describe(block, expected) for block, expected in stale_includes(root, page_blocks)]
     if problems:
-        fail("\n".join(problems) + "\nrun: python3 tests/docs/snippets.py update")
+        fail("\n".join(problems) + "\nrun: python3 docs/tools/snippets.py update")
     print(
         f"snippets: {counts['file'] + counts['body']} C++ blocks compiled by the test build "
         f"({counts['file']} files, {counts['body']} bodies), {counts['include']} equal to their example, "
@@ -203,7 +203,7 @@ def generate(root, out, page):
     page_blocks = blocks_of(page)
     stale = stale_includes(root, page_blocks)
     if stale:
-        fail("\n".join(describe(b, e) for b, e in stale) + "\nrun: python3 tests/docs/snippets.py update")
+        fail("\n".join(describe(b, e) for b, e in stale) + "\nrun: python3 docs/tools/snippets.py update")
     includes = []
     units = []
     source = os.path.abspath(page).replace("\\", "/")
@@ -234,7 +234,7 @@ def generate(root, out, page):
             )
     name = os.path.relpath(page, root)
     content = (
-        f"// The C++ blocks of {name}, written by tests/docs/snippets.py: do not edit.\n"
+        f"// The C++ blocks of {name}, written by docs/tools/snippets.py: do not edit.\n"
         + '#include "SnippetContext.h"\n'
         + "".join(line + "\n" for line in includes)
         + "\n"
