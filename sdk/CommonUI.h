@@ -2,6 +2,8 @@
 
 // Every public header of the library.
 
+#include "CommonUIVersion.h"
+
 #include "NA/CKyNANetworkAccessManager.h"
 #include "NA/CKyNANetworkReply.h"
 #include "NA/CKyNANetworkRequest.h"

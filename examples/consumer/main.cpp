@@ -4,6 +4,7 @@
 // Without a display it runs offscreen and accepts itself; exits with 0 when
 // the dialog ended with 1 and the host heard the start and the end.
 
+#include "CommonUIVersion.h"
 #include "KyHostKernel.h"
 #include "UI/CKyUIDialog.h"
 #include "UI/CKyUIDialogButtonBox.h"
@@ -72,6 +73,7 @@ int main(int argc, char** argv)
 
     const bool themed = !GetStyle()->styleSheet.isEmpty();
     const bool told = host.calls == std::vector<bool>{true, false};
+    std::printf("consumer: built against CommonUI %s\n", COMMONUI_VERSION_STR);
     std::printf("consumer: result %d, theme %s, host told %s\n", result, themed ? "loaded" : "missing",
                 told ? "start and end" : "something else");
     if (!headless)

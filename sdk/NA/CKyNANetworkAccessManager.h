@@ -10,9 +10,10 @@ class QIODevice;
 class CKyNANetworkReply;
 class CKyNANetworkRequest;
 
-/// Starts HTTP transfers. Each call returns a new reply that the caller owns
-/// and deletes before the manager; every transfer is aborted when it runs
-/// longer than the request's time-out (30000 ms unless the request sets one).
+/// Starts HTTP transfers, each bounded by a time-out of 30000 ms unless its
+/// request sets one (see \ref behaviours_network "behaviours"). Each call
+/// returns a new reply that the caller owns and deletes before the manager; a
+/// transfer that runs longer than its time-out is aborted.
 ///
 /// Each operation starts the transfer at once and returns a distinct
 /// CKyNANetworkReply, also for equal requests. The time-out bounds the whole

@@ -16,9 +16,11 @@
 
 class QObject;
 
-/// One transfer started by the network access manager. Signals come from the
-/// toolkit's event loop; body and headers become readable with error() or
-/// finished(). The caller deletes the reply, before its manager.
+/// One transfer started by the network access manager, whose body reads as
+/// empty until error() or finished() (see
+/// \ref behaviours_network "behaviours"). Signals come from the toolkit's event
+/// loop; body and headers become readable with error() or finished(). The
+/// caller deletes the reply, before its manager.
 ///
 /// Order of the signals: downloadProgress() and uploadProgress() while the
 /// transfer runs, encrypted() when a secure connection is set up; on failure
@@ -53,7 +55,7 @@ class QObject;
 /// });
 /// \endcode
 ///
-/// See \ref services.
+/// See \ref services, and \ref errors_reply for every error code.
 class COMMONUI_EXPORT CKyNANetworkReply : public CKyUIObject
 {
 public:

@@ -12,10 +12,12 @@
 class QNetworkRequest;
 class CKyNANetworkRequestImpl;
 
-/// What a client fills in before a transfer or a web-socket open: a URL, known
-/// and raw headers and a time-out. A plain value, outside the object tree; every
-/// setter also writes the toolkit request that the manager and the web socket
-/// hand to the toolkit.
+/// What a client fills in before a transfer or a web-socket open, of which a
+/// copy keeps only the URL given to setUrl() (see
+/// \ref behaviours_network "behaviours"). It holds a URL, known and raw
+/// headers, time-outs and options. A plain value, outside the object tree;
+/// every setter also writes the toolkit request that the manager and the web
+/// socket hand to the toolkit.
 ///
 /// The getters answer from what was set on this object, never from the
 /// toolkit request. Copying and assigning are deliberately shallow: the copy

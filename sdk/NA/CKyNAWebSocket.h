@@ -13,9 +13,9 @@
 
 class CKyNANetworkRequest;
 
-/// A receive-only web socket: reports connection, disconnection, errors and
-/// incoming text messages; binary messages are not reported and nothing is
-/// sent but pings and the close.
+/// A receive-only web socket, reporting text messages only and sending nothing
+/// but pings and the close (see \ref behaviours_network "behaviours"). It
+/// reports connection, disconnection, errors and incoming text messages.
 ///
 /// Order of the signals is the toolkit's: a successful open() gives
 /// connected(), then any number of textMessageReceived(), then disconnected()
@@ -37,14 +37,16 @@ class CKyNANetworkRequest;
 /// disconnected(). Deleting it from one of its own slots is fine: the toolkit
 /// socket then goes on the next pass of the event loop.
 ///
-/// See \ref services.
+/// See \ref services, and \ref errors_socket for every error code.
 class COMMONUI_EXPORT CKyNAWebSocket : public CKyUIObject
 {
 public:
     /// A closed socket that announces @p origin and speaks @p version of the
-    /// protocol (CKyNAWebSocketProtocol::VersionLatest in practice). An origin
-    /// holding CR, LF or NUL would split the opening request: it is not
-    /// announced at all, and one warning says why.
+    /// protocol (CKyNAWebSocketProtocol::VersionLatest in practice). The origin
+    /// is the `Origin` header of each opening handshake, which servers that
+    /// take connections only from known origins check; an empty one sends
+    /// none. An origin holding CR, LF or NUL would split the opening request:
+    /// it is not announced at all, and one warning says why.
     CKyNAWebSocket(const QString& origin, CKyNAWebSocketProtocol::Version version);
     /// Deletes the toolkit socket at once, without reporting disconnected()
     /// or anything else.
@@ -61,7 +63,7 @@ public:
     /// Bounds the opening handshake of the next open() calls to @p ms
     /// milliseconds, connection and TLS set-up included; 0 (the default) or less
     /// leaves it unbounded. When the time runs out before connected(), the
-    /// socket reports error(5) (the toolkit's `SocketTimeoutError`) and then
+    /// socket reports `error(QAbstractSocket::SocketTimeoutError)` (5) and then
     /// disconnected(), and closeCode() reads
     /// CKyNAWebSocketProtocol::CloseCodeAbnormalDisconnection.
     void setHandshakeTimeout(int ms);

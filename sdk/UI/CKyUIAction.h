@@ -6,8 +6,11 @@
 #include <QtGui/QIcon>
 
 /// A command with a text, an icon and check, enable and visibility flags,
-/// reporting triggered(checked). Not a view. The getters answer from what was
-/// set: a user toggling a checkable action does not change isChecked().
+/// reporting triggered(checked), whose setEnabled() changes nothing on screen
+/// and whose toolkit action outlives it (see
+/// \ref behaviours_controls "behaviours"). Not a view. The getters answer from
+/// what was set: a user toggling a checkable action does not change
+/// isChecked().
 ///
 /// Set the flags before reading them: isChecked() has no defined value
 /// before the first setChecked(). Add actions to a CKyUIMenu, which then owns

@@ -10,8 +10,11 @@ class CKyUIPaintEvent;
 class CKyUIResizeEvent;
 class CKyUIFocusEvent;
 
-/// Base of every visible element: controls, containers, both box layouts and
-/// the dialog button box (dialogs, actions, menus and timers are not views).
+/// Base of every visible element, whose size operations only record the size
+/// and whose isVisible() is false until setVisible(true) (see
+/// \ref behaviours_views "behaviours"). Controls, containers, both box layouts
+/// and the dialog button box are views; dialogs, actions, menus and timers are
+/// not.
 ///
 /// Width and height are a record kept by the view, not a query of the widget:
 /// resize() and friends only change the record, and size limits reach the

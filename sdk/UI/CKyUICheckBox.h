@@ -4,7 +4,8 @@
 #include "UI/CKyUISignal.h"
 
 /// A two-state check box driven from the program's side: its state and its
-/// signals follow setChecked(), not the user's clicks on the widget.
+/// signals follow setChecked(), not the user's clicks on the widget (see
+/// \ref behaviours_controls "behaviours").
 ///
 /// A user's click changes what the widget shows, but not isChecked(), and no
 /// signal fires. Read the state your program set, or offer a push button for

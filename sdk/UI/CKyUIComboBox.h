@@ -9,9 +9,11 @@
 
 class QValidator;
 
-/// A drop-down list with its own model of items (icon, text, user data). The
-/// model is the authority: every query answers from it, never from the widget,
-/// and the signals come from the program's calls, not from the user's choice.
+/// A drop-down list whose own model of items is the authority: the user's
+/// choice changes neither currentIndex() nor any signal (see
+/// \ref behaviours_controls "behaviours"). Each item has an icon, a text and
+/// user data; every query answers from the model, never from the widget, and
+/// the signals come from the program's calls.
 ///
 /// A choice the user makes in the drop-down changes neither currentIndex()
 /// nor currentText() and emits nothing; activated(), editTextChanged() and

@@ -9,9 +9,12 @@ class CKyUIShowEvent;
 class CKyUIHideEvent;
 class CKyUIVerticalLayout;
 
-/// The top-level window of a plug-in's user interface. Derive from it, build
-/// the content in SetupUI() and run it with exec(). A dialog is not a view and
-/// cannot be placed in a layout.
+/// The top-level window of a plug-in's user interface, run modally by exec()
+/// whatever its flag, ended by accept() and reject() without a signal, and
+/// leaving its toolkit dialog behind unless released (see
+/// \ref behaviours_dialog "behaviours"). Derive from it, build the content in
+/// SetupUI() and run it with exec(). A dialog is not a view and cannot be
+/// placed in a layout.
 ///
 /// While a dialog runs modally the host application is told so: exec() tells
 /// it that a dialog starts, accept(), reject(), done(), hide() and

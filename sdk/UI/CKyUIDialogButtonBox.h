@@ -8,10 +8,12 @@
 class CKyUIDialog;
 class CKyUIPushButton;
 
-/// The row of OK, Cancel and Help at the foot of a dialog. Create it last in
-/// the dialog's SetupUI(): it joins the end of the dialog's root layout and
-/// becomes the dialog's child. It never closes the dialog by itself: connect
-/// accepted() and rejected() to the dialog's accept() and reject().
+/// The row of OK, Cancel and Help at the foot of a dialog, which never closes
+/// the dialog by itself and always shows all three buttons (see
+/// \ref behaviours_dialog "behaviours"). Create it last in the dialog's
+/// SetupUI(): it joins the end of the dialog's root layout and becomes the
+/// dialog's child. It never closes the dialog by itself: connect accepted() and
+/// rejected() to the dialog's accept() and reject().
 ///
 /// \code
 /// auto* buttons = new CKyUIDialogButtonBox(this);

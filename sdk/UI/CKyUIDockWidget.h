@@ -2,7 +2,8 @@
 
 #include "UI/CKyUIBaseView.h"
 
-/// Holds one view for a host to place in a dock area. It creates no toolkit
+/// Holds one view for a host to place in a dock area, without a widget of its
+/// own (see \ref behaviours_containers "behaviours"). It creates no toolkit
 /// widget of its own: it remembers its view and title and passes show and hide
 /// events on to the view. The view is not owned and must outlive those events.
 ///

@@ -3,9 +3,10 @@
 #include "UI/CKyUIBaseView.h"
 #include "UI/CKyUISignal.h"
 
-/// A titled frame laying its child views out in one row or one column, with a
-/// thin black outline. Collapsing is bookkeeping only: it is stored and
-/// announced, and nothing is hidden.
+/// A titled frame laying its child views out in one row or one column, whose
+/// collapsing hides nothing (see \ref behaviours_containers "behaviours"). It
+/// has a thin black outline. Collapsing is bookkeeping only: it is stored and
+/// announced.
 ///
 /// Add child views with addView() and insertView(); a CKyUIRadioGroup added
 /// here places its radio buttons in the box.

@@ -2,8 +2,9 @@
 
 #include "UI/CKyUIBaseView.h"
 
-/// Arranges child views in a row. Removing a view drops only the public link:
-/// its widget stays in the row.
+/// Arranges child views in a row, where a removed view's widget stays (see
+/// \ref behaviours_containers "behaviours"). Removing a view drops only the
+/// public link.
 ///
 /// Add children with addView() and insertView(); the stretch is truncated
 /// toward zero (2.7 gives 2). A new layout has no margins.

@@ -5,10 +5,10 @@
 class QPainter;
 class QPixmap;
 
-/// A view that renders into an off-screen image of its own size: on every size
-/// change and update() it hands a paint event to paintEvent(), during which
-/// GetPainter() draws on that image. The view has no toolkit widget, so the
-/// image is not shown anywhere by the library.
+/// A view that renders into an off-screen image of its own size and shows it
+/// nowhere (see \ref behaviours_controls "behaviours"). On every size change
+/// and update() it hands a paint event to paintEvent(), during which
+/// GetPainter() draws on that image. The view has no toolkit widget.
 ///
 /// Override paintEvent() to draw; the image's pixels are not cleared before,
 /// so cover the whole rectangle. A size with a zero width or height renders

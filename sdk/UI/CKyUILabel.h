@@ -5,9 +5,11 @@
 #include <QtCore/QString>
 #include <QtGui/QIcon>
 
-/// A line of text or a small icon. Boldness and font size live in the label's
-/// own style sheet, on top of the theme the dialog sets (which gives labels a
-/// 12-pixel font and a padding of 5 pixels). A label has no signals.
+/// A line of text or a small icon, whose clear() keeps the icon and whose font
+/// sizes with a 0 in them stay in its style sheet (see
+/// \ref behaviours_controls "behaviours"). Boldness and font size live in the
+/// label's own style sheet, on top of the theme the dialog sets (which gives
+/// labels a 12-pixel font and a padding of 5 pixels). A label has no signals.
 ///
 /// \image html buttons-and-text.png "Labels among the push buttons and text fields"
 class COMMONUI_EXPORT CKyUILabel : public CKyUIBaseView

@@ -7,9 +7,10 @@
 #include <QtCore/QString>
 #include <QtCore/QVariant>
 
-/// A list of text items, each with a value and a selected flag. The list is a
-/// model kept by the library alone: every query answers from it, and the
-/// toolkit widget stays empty. No public operation emits valueChanged.
+/// A list of text items, each with a value and a selected flag, that its widget
+/// never shows (see \ref behaviours_controls "behaviours"). The list is a model
+/// kept by the library alone: every query answers from it, and the toolkit
+/// widget stays empty. No public operation emits valueChanged.
 ///
 /// \image html choices.png "The list box, coloured through setPalette, among the choices"
 class COMMONUI_EXPORT CKyUIListBox : public CKyUIBaseView

@@ -5,8 +5,10 @@
 class CKyUIAction;
 class CKyUIBaseView;
 
-/// A pop-up menu of actions. Added actions become the menu's children and are
-/// deleted with it; clear() takes them off the menu without deleting them.
+/// A pop-up menu of actions, whose clear() does not delete them (see
+/// \ref behaviours_controls "behaviours"). Added actions become the menu's
+/// children and are deleted with it; clear() takes them off the menu without
+/// deleting them.
 class COMMONUI_EXPORT CKyUIMenu : public CKyUIObject
 {
 public:

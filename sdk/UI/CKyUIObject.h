@@ -12,7 +12,8 @@ class CKyUIObjectImpl;
 
 /// Root of every public class: a place in the tree of public objects, the one
 /// toolkit object that does the work (the handle), a name, named properties and
-/// a switch that silences the object's signals.
+/// a switch that drops, not queues, the object's signals (see
+/// \ref behaviours_signals "behaviours").
 ///
 /// Every public class (views, dialogs, actions, menus, timers, network
 /// managers, replies and web sockets) derives from it. A public object holds

@@ -6,8 +6,10 @@
 #include <QtCore/QString>
 #include <QtGui/QIcon>
 
-/// A push button with a text and an optional icon. Alignment and bold text are
-/// written into the button's own style sheet, on top of the dialog's theme.
+/// A push button with a text and an optional icon, whose clicked() always
+/// carries `true` (see \ref behaviours_controls "behaviours"). Alignment and
+/// bold text are written into the button's own style sheet, on top of the
+/// dialog's theme.
 ///
 /// Reports clicks through clicked(), always with `true`. Every such button
 /// becomes the dialog's default button while it has the focus; a text edit

@@ -4,8 +4,9 @@
 #include "UI/CKyUISignal.h"
 
 /// A radio button driven from the program's side: its stored state and its
-/// signals follow setChecked(), not the user's clicks. Buttons placed in the
-/// same group box exclude each other on screen.
+/// signals follow setChecked(), not the user's clicks (see
+/// \ref behaviours_controls "behaviours"). Buttons placed in the same group box
+/// exclude each other on screen.
 ///
 /// Checking one button unchecks the others on screen, but their isChecked()
 /// stays as the program last set it; a user's click changes only what the

@@ -2,8 +2,10 @@
 
 #include "UI/CKyUIBaseView.h"
 
-/// Shows one child view, added with addView, inside a scrolling area that
-/// resizes the child with itself. A later addView replaces the shown child.
+/// Shows one child view inside a scrolling area whose scrolling switches are
+/// only stored (see \ref behaviours_containers "behaviours"). The area resizes
+/// the child, added with addView, with itself; a later addView replaces the
+/// shown child.
 ///
 /// \image html containers.png "A scrolled area among the containers"
 class COMMONUI_EXPORT CKyUIScrollableArea : public CKyUIBaseView

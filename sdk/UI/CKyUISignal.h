@@ -17,7 +17,9 @@
 #undef emit
 
 /// The signal of every public notification, bound to the public object whose
-/// blockSignals() silences it. Clients connect through the object's accessor.
+/// blockSignals() drops its emissions (see
+/// \ref behaviours_signals "behaviours"). Clients connect through the object's
+/// accessor.
 ///
 /// Connect any callable with connect(); it returns a
 /// slimsig::connection, a plain value: keep it to disconnect later, or drop
@@ -45,6 +47,7 @@ template <class Sig>
 class CKyUISignal;
 
 /// The signal for slots of signature `R(Args...)`; see CKyUISignal.
+/// \ingroup classes_foundation
 template <class R, class... Args>
 class CKyUISignal<R(Args...)>
     : public slimsig::signal_base<slimsig::signal_traits<R(Args...)>,

@@ -3,9 +3,11 @@
 #include "UI/CKyUIBaseView.h"
 #include "UI/CKyUISignal.h"
 
-/// Shows one of several pages at a time, each under a titled tab. The library
-/// keeps the pages, titles and current index; they follow the program's calls
-/// only, not the user's clicks on the tabs.
+/// Shows one of several pages at a time, each under a titled tab; a click on a
+/// tab changes neither currentIndex() nor any signal (see
+/// \ref behaviours_containers "behaviours"). The library keeps the pages,
+/// titles and current index; they follow the program's calls only, not the
+/// user's clicks on the tabs.
 ///
 /// A user's click on a tab shows that page, but currentIndex() stays and no
 /// signal fires. Pages can only be added.

@@ -5,8 +5,10 @@
 
 #include <QtGui/QTextCursor>
 
-/// The single-line text field. Return and Enter only report returnPressed:
-/// they never reach the dialog's default button.
+/// The single-line text field, whose textEdited() comes with every change, set
+/// or typed, and whose Return never presses the default button (see
+/// \ref behaviours_controls "behaviours"). Return and Enter only report
+/// returnPressed.
 ///
 /// The text is kept on the library's side and follows every change of the
 /// widget, typed or set; each such change emits textChanged() and then

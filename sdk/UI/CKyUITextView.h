@@ -3,8 +3,9 @@
 #include "UI/CKyUIBaseView.h"
 #include "UI/CKyUISignal.h"
 
-/// The multi-line text area. Appended plain text is made safe for rich-text
-/// display; appended HTML is shown formatted. Tab moves the focus on.
+/// The multi-line text area, which reads HTML from addHtmlText() only (see
+/// \ref behaviours_controls "behaviours"). Appended plain text is made safe for
+/// rich-text display; appended HTML is shown formatted. Tab moves the focus on.
 ///
 /// The content is kept as plain text: after every change of the widget it is
 /// the document's plain text. Every change of the widget's content, typed or

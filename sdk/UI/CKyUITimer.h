@@ -5,8 +5,9 @@
 
 #include <functional>
 
-/// A repeating timer. isActive() turns false at the first timeout although the
-/// timer keeps firing and emitting timeout(); for one shot, call stop() in the
+/// A repeating timer whose isActive() turns false at the first timeout, while
+/// it keeps firing and emitting timeout() (see
+/// \ref behaviours_controls "behaviours"). For one shot, call stop() in the
 /// slot or use singleShot().
 ///
 /// The toolkit timer is created with the object and deleted with it.

@@ -4,7 +4,8 @@
 
 #include <QtWidgets/QLayout>
 
-/// Arranges child views in a column. The dialog's root layout is one.
+/// Arranges child views in a column, ignoring setSizeConstraint() (see
+/// \ref behaviours_containers "behaviours"). The dialog's root layout is one.
 ///
 /// Add children with addView() and insertView(); the stretch is truncated
 /// toward zero (2.7 gives 2), and each child gets a minimum vertical size

@@ -44,6 +44,7 @@ foreach(installed
         include/${PACKAGE}/NA/CKyNANetworkAccessManager.h
         include/${PACKAGE}/UI/slimsig/detail/signal_base
         include/${PACKAGE}/CommonUI.h
+        include/${PACKAGE}/CommonUIVersion.h
         include/${PACKAGE}/commonui_export.h
         include/${PACKAGE}/KyHostKernel.h)
     if(NOT EXISTS ${prefix}/${installed})
@@ -83,6 +84,13 @@ step("run the consumer offscreen"
     ${CMAKE_COMMAND} -E env --unset=DISPLAY --unset=WAYLAND_DISPLAY QT_QPA_PLATFORM=offscreen
     ${client_build}/consumer)
 message(STATUS "${step_output}")
+# The version the consumer was compiled against is the one the package claims.
+file(GLOB_RECURSE version_file ${prefix}/*/${PACKAGE}ConfigVersion.cmake)
+file(STRINGS ${version_file} package_version REGEX "^set\\(PACKAGE_VERSION ")
+string(REGEX REPLACE "^set\\(PACKAGE_VERSION \"([^\"]*)\"\\).*" "\\1" package_version "${package_version}")
+if(NOT step_output MATCHES "built against CommonUI ${package_version}\n")
+    message(FATAL_ERROR "install test: the package says ${package_version}, the header does not")
+endif()
 
 # The consumer must have taken the installed library, not the build tree's.
 file(GET_RUNTIME_DEPENDENCIES EXECUTABLES ${client_build}/consumer
