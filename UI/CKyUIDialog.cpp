@@ -4,7 +4,7 @@
 
 CKyUIDialog::CKyUIDialog()
 {
-    setImpl(new CKyUIDialogImpl(this));
+    createImpl<CKyUIDialogImpl>(this);
 }
 
 CKyUIDialog::~CKyUIDialog() = default;

@@ -6,8 +6,7 @@
 
 CKyUIDialogButtonBox::CKyUIDialogButtonBox(CKyUIDialog* dialog)
 {
-    auto* impl = new CKyUIDialogButtonBoxImpl(this, dialog);
-    setImpl(impl);
+    auto* impl = createImpl<CKyUIDialogButtonBoxImpl>(this, dialog);
     if (!dialog)
         return;
     // Owned by the dialog, although its widget sits in the root layout.
@@ -17,24 +16,27 @@ CKyUIDialogButtonBox::CKyUIDialogButtonBox(CKyUIDialog* dialog)
     // the box, so they ask its lifetime first.
     const CKyUIObjectImpl::Lifetime lifetime = impl->GetLifetime();
     dialog->accepted().connect([impl, lifetime]() {
-        if (lifetime.Alive())
+        if (lifetime.Alive() && impl->RelaysDialogResult())
             impl->Button(Ok)->clicked().Emit(true);
     });
     dialog->rejected().connect([impl, lifetime]() {
-        if (lifetime.Alive())
+        if (lifetime.Alive() && impl->RelaysDialogResult())
             impl->Button(Cancel)->clicked().Emit(true);
     });
-    impl->Button(Ok)->clicked().connect([impl](bool) { impl->accepted.Emit(); });
-    impl->Button(Cancel)->clicked().connect([impl](bool) { impl->rejected.Emit(); });
+    impl->Button(Ok)->clicked().connect([impl](bool) { impl->OnResult(1); });
+    impl->Button(Cancel)->clicked().connect([impl](bool) { impl->OnResult(0); });
 }
 
 CKyUIDialogButtonBox::~CKyUIDialogButtonBox() = default;
 
-void CKyUIDialogButtonBox::setStandardButtons(StandardButtons) {}
+void CKyUIDialogButtonBox::setStandardButtons(StandardButtons buttons)
+{
+    implAs<CKyUIDialogButtonBoxImpl>()->SetStandardButtons(int(buttons));
+}
 
 CKyUIPushButton* CKyUIDialogButtonBox::button(StandardButton which) const
 {
-    return implAs<CKyUIDialogButtonBoxImpl>()->Button(which);
+    return implAs<CKyUIDialogButtonBoxImpl>()->ShownButton(which);
 }
 
 CKyUISignal<void()>& CKyUIDialogButtonBox::accepted()

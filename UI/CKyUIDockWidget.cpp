@@ -21,6 +21,10 @@ void CKyUIDockWidget::setWidget(CKyUIBaseView* view)
         next = dock ? dock->widget() : nullptr;
     }
     implAs<CKyUIDockWidgetImpl>()->SetWidget(view);
+    // Like a view added to a container. A view that is already interactive is
+    // left alone: the dock may sit in its tree.
+    if (view && isInteractive() && !view->isInteractive())
+        SetInteractiveTree(view, true);
 }
 
 CKyUIBaseView* CKyUIDockWidget::widget()
@@ -31,6 +35,11 @@ CKyUIBaseView* CKyUIDockWidget::widget()
 const CKyUIBaseView* CKyUIDockWidget::widget() const
 {
     return implAs<CKyUIDockWidgetImpl>()->Widget();
+}
+
+int CKyUIDockWidget::area() const
+{
+    return implAs<CKyUIDockWidgetImpl>()->Area();
 }
 
 void CKyUIDockWidget::setTitle(const QString& title)

@@ -6,6 +6,7 @@
 CKyUIDialogButtonBoxImpl::CKyUIDialogButtonBoxImpl(CKyUIDialogButtonBox* owner, CKyUIDialog* dialog)
     : CKyUIBaseViewImpl(owner)
     , m_box(owner)
+    , m_chosenButtons(CKyUIDialogButtonBox::Ok | CKyUIDialogButtonBox::Cancel | CKyUIDialogButtonBox::Help)
     , accepted(owner)
     , clicked(owner)
     , helpRequest(owner)
@@ -42,15 +43,45 @@ CKyUIPushButton* CKyUIDialogButtonBoxImpl::Button(int which) const
     }
 }
 
+CKyUIPushButton* CKyUIDialogButtonBoxImpl::ShownButton(int which) const
+{
+    CKyUIPushButton* wrapper = Button(which);
+    if (wrapper && owner()->isInteractive() && !(m_chosenButtons & which))
+        return nullptr;
+    return wrapper;
+}
+
+void CKyUIDialogButtonBoxImpl::SetStandardButtons(int buttons)
+{
+    m_chosenButtons =
+        buttons & (CKyUIDialogButtonBox::Ok | CKyUIDialogButtonBox::Cancel | CKyUIDialogButtonBox::Help);
+    if (owner()->isInteractive())
+        SetStandardButtonsImpl(m_chosenButtons);
+}
+
+bool CKyUIDialogButtonBoxImpl::RelaysDialogResult() const
+{
+    return !(owner()->isInteractive() && IsReporting());
+}
+
 void CKyUIDialogButtonBoxImpl::OnResult(int code)
 {
-    if (code == 1)
-        accepted.Emit();
-    else
-        rejected.Emit();
+    CKyUISignal<void()>& report = code == 1 ? accepted : rejected;
+    // Counted as a report: see RelaysDialogResult.
+    EmitInOrder([&report] { report.Emit(); });
 }
 
 void CKyUIDialogButtonBoxImpl::OnClicked()
 {
+    if (owner()->isInteractive())
+        return;
     clicked.Emit(m_helpButton);
+}
+
+void CKyUIDialogButtonBoxImpl::OnButtonClicked(const QObject* button)
+{
+    for (CKyUIPushButton* wrapper : {m_okButton, m_cancelButton, m_helpButton}) {
+        if (wrapper && button && wrapper->getHandle() == button)
+            return clicked.Emit(wrapper);
+    }
 }

@@ -61,6 +61,8 @@ bool CKyUIDialogImpl::DefaultReleasesToolkitDialog()
 void CKyUIDialogImpl::SetInteractiveImpl(bool interactive)
 {
     CKyUIObjectImpl::SetInteractiveImpl(interactive);
+    if (interactive)
+        LinkToolkitCloseImpl();
     SetInteractiveTree(m_rootLayout, interactive);
     const QList<CKyUIObject*> children = owner()->children();
     for (CKyUIObject* child : children)
@@ -71,14 +73,20 @@ int CKyUIDialogImpl::Exec(bool modal)
 {
     // SetupUI() and the slots of the run may delete the dialog.
     const Lifetime lifetime = GetLifetime();
-    NotifyHost(true);
+    // Under the switch exec(false) runs beside the host's own window, which
+    // is then no modal run to announce.
+    const bool modalRun = modal || !owner()->isInteractive();
+    if (modalRun) {
+        NotifyHost(true);
+        m_hostToldRunning = true;
+    }
     SetupUIImpl(nullptr);
     if (!lifetime.Alive())
         return 0;
     // Views made by SetupUI() outside the root layout's tree follow as well.
     if (owner()->isInteractive())
         SetInteractiveImpl(true);
-    const int result = ExecImpl(modal);
+    const int result = ExecImpl(modalRun);
     if (!lifetime.Alive())
         return result;
     m_result = result;
@@ -87,6 +95,8 @@ int CKyUIDialogImpl::Exec(bool modal)
 
 void CKyUIDialogImpl::Accept()
 {
+    if (owner()->isInteractive())
+        return EndRun(1);
     m_result = 1;
     NotifyHost(false);
     HideImpl();
@@ -94,6 +104,8 @@ void CKyUIDialogImpl::Accept()
 
 void CKyUIDialogImpl::Reject()
 {
+    if (owner()->isInteractive())
+        return EndRun(0);
     m_result = 0;
     NotifyHost(false);
     HideImpl();
@@ -101,6 +113,8 @@ void CKyUIDialogImpl::Reject()
 
 void CKyUIDialogImpl::Done(int result)
 {
+    if (owner()->isInteractive())
+        return EndRun(result);
     m_result = result;
     NotifyHost(false);
     HideImpl();
@@ -108,8 +122,42 @@ void CKyUIDialogImpl::Done(int result)
 
 void CKyUIDialogImpl::Hide()
 {
-    NotifyHost(false);
+    NotifyRunEnded();
     HideImpl();
+}
+
+void CKyUIDialogImpl::NotifyRunEnded()
+{
+    if (!owner()->isInteractive())
+        return NotifyHost(false);
+    if (!m_hostToldRunning)
+        return;
+    m_hostToldRunning = false;
+    NotifyHost(false);
+}
+
+void CKyUIDialogImpl::EndRun(int result)
+{
+    if (m_reportingEnd)
+        return;
+    m_reportingEnd = true;
+    m_result = result;
+    NotifyRunEnded();
+    HideImpl();
+    const bool alive = EmitInOrder([this, result] { finished.Emit(result); },
+                                   [this, result] {
+                                       if (result == 1)
+                                           accepted.Emit();
+                                       else if (result == 0)
+                                           rejected.Emit();
+                                   });
+    if (alive)
+        m_reportingEnd = false;
+}
+
+void CKyUIDialogImpl::OnToolkitFinished(int result)
+{
+    EndRun(result);
 }
 
 void CKyUIDialogImpl::SetVisible(bool visible)

@@ -40,6 +40,10 @@ public:
     // Hands the switch on to the dialog's tree: its root layout and children.
     void SetInteractiveImpl(bool interactive) override;
 
+    // Under the switch: the toolkit's own close (Escape, the window's close
+    // button) ends the run as reject() does.
+    void OnToolkitFinished(int result);
+
     // No toolkit signal is connected to these; client code may call them.
     void OnAccepted();
     void OnAcceptPressed();
@@ -52,8 +56,12 @@ public:
     void DestroyFrontendDialogImpl();
     // The argument is not used.
     void SetupUIImpl(QObject* parent);
-    // The toolkit's result, or the stored one without a dialog.
+    // The toolkit's result, or the stored one without a dialog. Only a run
+    // under the switch may be non-modal: then the dialog is shown and the
+    // stored result returned at once.
     int ExecImpl(bool modal);
+    // Lets the toolkit's own close reach OnToolkitFinished.
+    void LinkToolkitCloseImpl();
     void HideImpl();
     void SetVisibleImpl(bool visible);
     void SetWindowTitleImpl(const QString& title);
@@ -62,6 +70,14 @@ private:
     // Tells the active document's host object whether a modal dialog runs;
     // without a host object nobody is told.
     static void NotifyHost(bool running);
+    // Tells the host that the dialog no longer runs. Under the switch only
+    // once, and only after a modal run was announced.
+    void NotifyRunEnded();
+    // Under the switch: stores the result, closes and reports finished, then
+    // accepted (1) or rejected (0). A close asked for while that report runs
+    // is the same end and does nothing: the button box relays the dialog's
+    // accepted and rejected back as presses, whose slots close again.
+    void EndRun(int result);
 
     CKyUIDialog* const m_dialog;
     QVBoxLayout* m_boxLayout = nullptr;          // owned by the QDialog
@@ -69,6 +85,8 @@ private:
     QString m_windowTitle;
     int m_result = 0;
     bool m_releasesToolkitDialog;
+    bool m_hostToldRunning = false;
+    bool m_reportingEnd = false;
     // Points into a running ExecImpl: set there when the dialog object goes
     // during the run and the QDialog is to be deleted once the run is over.
     bool* m_releaseAfterRun = nullptr;

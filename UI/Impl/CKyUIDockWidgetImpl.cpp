@@ -1,11 +1,15 @@
 #include "UI/Impl/CKyUIDockWidgetImpl.h"
 
+#include "UI/CKyUIBaseView.h"
+
 CKyUIDockWidgetImpl::CKyUIDockWidgetImpl(CKyUIObject* owner)
     : CKyUIBaseViewImpl(owner)
-{
-}
+{}
 
-CKyUIDockWidgetImpl::~CKyUIDockWidgetImpl() = default;
+CKyUIDockWidgetImpl::~CKyUIDockWidgetImpl()
+{
+    ReleaseDockImpl();
+}
 
 QString CKyUIDockWidgetImpl::GetFrontendClassName()
 {
@@ -19,12 +23,16 @@ void CKyUIDockWidgetImpl::CreateFrontendControl()
 
 void CKyUIDockWidgetImpl::SetArea(int area)
 {
+    m_area = area;
     SetAreaImpl(area);
 }
 
 void CKyUIDockWidgetImpl::SetWidget(CKyUIBaseView* view)
 {
     m_widget = view;
+    m_widgetLifetime.reset();
+    if (view && view->impl())
+        m_widgetLifetime = view->impl()->GetLifetime();
     SetWidgetImpl(view);
 }
 
@@ -38,12 +46,5 @@ void CKyUIDockWidgetImpl::SetTitle(const QString& title)
 
 void CKyUIDockWidgetImpl::SetAreaImpl(int)
 {
-}
-
-void CKyUIDockWidgetImpl::SetWidgetImpl(CKyUIBaseView*)
-{
-}
-
-void CKyUIDockWidgetImpl::SetTitleImpl(const QString&)
-{
+    // The host places the dock: it asks for the area.
 }

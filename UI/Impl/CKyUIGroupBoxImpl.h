@@ -4,6 +4,9 @@
 #include "UI/CKyUISignal.h"
 #include "UI/Impl/CKyUIBaseViewImpl.h"
 
+#include <QtCore/QList>
+#include <QtCore/QPointer>
+
 class CKyUIGroupBoxImpl : public CKyUIBaseViewImpl
 {
 public:
@@ -14,6 +17,9 @@ public:
     void CreateFrontendControl() override;
     void AddViewImpl(CKyUIBaseView* view, float stretch) override;
     void InsertViewImpl(CKyUIBaseView* view, int index, float stretch) override;
+    // Switched on: collapsing hides the content, and a title gets room above
+    // it. Switched off: the content shows again and the title loses its room.
+    void SetInteractiveImpl(bool interactive) override;
 
     void SetTitle(const QString& title);
     const QString& Title() const { return m_title; }
@@ -32,6 +38,11 @@ public:
     void SetContentsMarginsImpl(int left, int top, int right, int bottom);
     void SetSpacingImpl(int spacing);
     void SetCollapsedImpl(bool collapsed);
+    // Hides the widgets in the box's layout, remembering them, or shows again
+    // those it hid.
+    void ShowContentImpl(bool show);
+    // The theme leaves the title no room: the children cover it.
+    void GiveTitleRoomImpl(bool room);
 
     CKyUISignal<void(bool)> onCollapsedStateChanged;
 
@@ -42,4 +53,5 @@ private:
     QString m_title;
     const CKyUIGroupBox::Orientation m_orientation;
     bool m_collapsed = false;
+    QList<QPointer<QWidget>> m_hiddenContent;
 };

@@ -2,8 +2,7 @@
 
 CKyUIScrollableAreaImpl::CKyUIScrollableAreaImpl(CKyUIObject* owner)
     : CKyUIBaseViewImpl(owner)
-{
-}
+{}
 
 CKyUIScrollableAreaImpl::~CKyUIScrollableAreaImpl() = default;
 
@@ -30,12 +29,4 @@ void CKyUIScrollableAreaImpl::SetVerticalScrollingEnabled(bool enabled)
 {
     m_verticalScrollingEnabled = enabled;
     SetVerticalScrollingEnabledImpl(enabled);
-}
-
-void CKyUIScrollableAreaImpl::SetHorizontalScrollingEnabledImpl(bool)
-{
-}
-
-void CKyUIScrollableAreaImpl::SetVerticalScrollingEnabledImpl(bool)
-{
 }

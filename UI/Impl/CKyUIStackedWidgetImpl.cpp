@@ -6,8 +6,7 @@ CKyUIStackedWidgetImpl::CKyUIStackedWidgetImpl(CKyUIObject* owner)
     , tabCloseRequested(owner)
     , tabBarClicked(owner)
     , tabBarDoubleClicked(owner)
-{
-}
+{}
 
 CKyUIStackedWidgetImpl::~CKyUIStackedWidgetImpl() = default;
 
@@ -25,9 +24,10 @@ void CKyUIStackedWidgetImpl::AddTab(CKyUIBaseView* view, const QString& title)
 
 int CKyUIStackedWidgetImpl::IndexOf(CKyUIBaseView* view) const
 {
-    // A stranger gets the count, not -1, so that setCurrentIndex ignores it.
+    // A stranger gets the count, not -1, so that setCurrentIndex ignores it;
+    // under the switch -1, which it ignores as well.
     const int index = m_pages.indexOf(view);
-    return index < 0 ? m_pages.size() : index;
+    return index < 0 && !owner()->isInteractive() ? m_pages.size() : index;
 }
 
 void CKyUIStackedWidgetImpl::SetTabText(int index, const QString& text)

@@ -7,7 +7,8 @@
 #include <QtCore/QString>
 
 // The stacked widget's pages (not owned: they are the view's children),
-// titles and current index. No toolkit signal reaches the handlers below.
+// titles and current index. No toolkit signal reaches the handlers below,
+// unless the widget follows its user.
 class CKyUIStackedWidgetImpl : public CKyUIBaseViewImpl
 {
 public:
@@ -16,6 +17,9 @@ public:
 
     QString GetFrontendClassName() override;
     void CreateFrontendControl() override;
+    // Switched on: the toolkit shows the stored current page, and the tab
+    // bar's clicks, double clicks, close requests and page changes report.
+    void SetInteractiveImpl(bool interactive) override;
 
     void AddTab(CKyUIBaseView* view, const QString& title);
     int IndexOf(CKyUIBaseView* view) const;

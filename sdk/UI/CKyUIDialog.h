@@ -21,6 +21,15 @@ class CKyUIVerticalLayout;
 /// setVisible(false) that it ends. A dialog the user closes with Escape or the
 /// window's close button ends without telling the host.
 ///
+/// **Interactive** (setInteractive()): every way out ends the run once. The
+/// host hears once that the modal run ended, whether the program or the user
+/// (Escape, the close button) closed the dialog; accept(), reject(), done() and
+/// the user's close emit finished() and then accepted() (result 1) or
+/// rejected() (result 0). A close asked for while that report runs (the button
+/// box relays it as a press of OK or Cancel, whose slot calls accept() again)
+/// does nothing. exec(false) shows the dialog beside the host's window and
+/// returns at once; finished() tells when it closes.
+///
 /// **Lifetime.** The views created in SetupUI() and added to GetLayout() are
 /// owned by the root layout, which the dialog deletes with itself; so is the
 /// CKyUIDialogButtonBox, a child of the dialog. The toolkit dialog behind it
@@ -73,7 +82,9 @@ public:
     virtual void SetupUI() = 0;
 
     /// Runs the dialog modally and returns its result code. The flag has no
-    /// effect. A dialog object is meant to be executed once.
+    /// effect unless the dialog is interactive: then false shows the dialog
+    /// without a modal loop and without telling the host, and returns the
+    /// stored result at once. A dialog object is meant to be executed once.
     ///
     /// In order: tells the host that a dialog runs, applies the theme, builds
     /// the root layout, calls SetupUI(), then runs the toolkit's modal loop,
@@ -88,13 +99,15 @@ public:
     virtual void hideEvent(CKyUIHideEvent* event);
 
     /// Closes with result 1 and tells the host that the dialog ends. Emits no
-    /// signal (neither accepted() nor finished()).
+    /// signal (neither accepted() nor finished()); an interactive dialog emits
+    /// finished(1), then accepted().
     virtual void accept();
     /// Closes with result 0 and tells the host that the dialog ends. Emits no
-    /// signal.
+    /// signal; an interactive dialog emits finished(0), then rejected().
     virtual void reject();
     /// Closes with @p result, which exec() returns, and tells the host that
-    /// the dialog ends. Emits no signal.
+    /// the dialog ends. Emits no signal; an interactive dialog emits
+    /// finished(result), then accepted() for 1 or rejected() for 0.
     virtual void done(int result);
 
     /// The root layout of the running dialog; null before the first exec().
@@ -118,12 +131,14 @@ public:
     /// Stores the title and shows it on the window.
     void setWindowTitle(const QString& title);
 
-    /// Raised by client code only; the button box reports them as clicks of OK
-    /// and Cancel. finished() is never emitted by the library.
+    /// Raised by client code only, unless the dialog is interactive; the button
+    /// box reports them as clicks of OK and Cancel.
     CKyUISignal<void()>& accepted();
-    /// Raised by client code only; the button box reports it as a click of
-    /// Cancel and then as its own rejected().
+    /// Raised by client code only, unless the dialog is interactive; the button
+    /// box reports it as a click of Cancel and then as its own rejected().
     CKyUISignal<void()>& rejected();
-    /// Never emitted by the library.
+    /// Never emitted by the library, unless the dialog is interactive: then
+    /// with the result code whenever the dialog closes, before accepted() or
+    /// rejected().
     CKyUISignal<void(int)>& finished();
 };

@@ -24,6 +24,13 @@ class CKyUIPushButton;
 /// Pressing OK emits clicked() and then accepted(); Cancel clicked() and then
 /// rejected(); Help clicked() only.
 ///
+/// **Interactive** (setInteractive(), usually through the dialog's):
+/// setStandardButtons() chooses the buttons, clicked() carries the wrapper of
+/// the button pressed, Help emits helpRequest(), and the wrappers follow the
+/// box's switch. When the dialog's accepted() or rejected() answers this box's
+/// own accepted() or rejected() (the slot called accept() or reject()), it is
+/// not reported back as a second press.
+///
 /// \image html buttons-and-text.png "A dialog with its button box at the foot"
 class COMMONUI_EXPORT CKyUIDialogButtonBox : public CKyUIBaseView
 {
@@ -45,10 +52,13 @@ public:
     explicit CKyUIDialogButtonBox(CKyUIDialog* dialog);
     ~CKyUIDialogButtonBox() override;
 
-    /// Does nothing: the box always shows OK, Cancel and Help.
+    /// Does nothing: the box always shows OK, Cancel and Help. An interactive
+    /// box shows the buttons chosen (of these three); the last choice applies
+    /// when the box is switched on, and switching off brings all three back.
     void setStandardButtons(StandardButtons buttons);
     /// The wrapper of one standard button; null for anything else, combinations
-    /// of flags included. A press of the toolkit button reaches clients only as
+    /// of flags included, and, when the box is interactive, for a button it
+    /// does not show. A press of the toolkit button reaches clients only as
     /// this box's signals, not as the wrapper's clicked(). The box owns the
     /// wrappers.
     CKyUIPushButton* button(StandardButton which) const;
@@ -56,9 +66,11 @@ public:
     /// Emitted when OK is pressed, after clicked(), and when client code
     /// raises the dialog's accepted().
     CKyUISignal<void()>& accepted();
-    /// Carries the Help wrapper whichever button was pressed.
+    /// Carries the Help wrapper whichever button was pressed; when the box is
+    /// interactive, the wrapper of the button pressed.
     CKyUISignal<void(CKyUIPushButton*)>& clicked();
-    /// Never emitted.
+    /// Never emitted, unless the box is interactive: then when Help is
+    /// pressed, after clicked().
     CKyUISignal<void()>& helpRequest();
     /// Emitted when Cancel is pressed, after clicked(), and when client code
     /// raises the dialog's rejected().

@@ -11,6 +11,11 @@
 /// Add child views with addView() and insertView(); a CKyUIRadioGroup added
 /// here places its radio buttons in the box.
 ///
+/// **Interactive** (setInteractive()): collapsing hides the box's content and
+/// expanding shows it again (a child hidden by its client stays hidden), and a
+/// title gets room of its own above the children, which otherwise cover it
+/// under the dialog's theme.
+///
 /// \image html containers.png "Group boxes (one collapsed) among the containers"
 class COMMONUI_EXPORT CKyUIGroupBox : public CKyUIBaseView
 {
@@ -37,7 +42,8 @@ public:
 
     /// Stores the state, asks the parent view to repaint and emits
     /// onCollapsedStateChanged(), only when the state changes. The box and its
-    /// children stay visible.
+    /// children stay visible, unless the box is interactive: then its content
+    /// hides while it is collapsed.
     void setCollapsed(bool collapsed);
     /// The stored state; false at first.
     bool isCollapsed() const;

@@ -20,6 +20,10 @@ public:
     void scrollTo(CKyUIBaseView* view);
 
     /// The flags are only kept: the scroll bars keep the toolkit's own policy.
+    /// When the area is interactive they apply: enabled scrolls as needed,
+    /// disabled shows no scroll bar that way and takes no wheel for it
+    /// (scrollTo() still scrolls). Both are false at first, so an interactive
+    /// area scrolls only the ways it is told to.
     void setHorizontalScrollingEnabled(bool enabled);
     /// The stored flag; false at first.
     bool horizontalScrollingEnabled() const;

@@ -9,6 +9,8 @@
 #include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QPushButton>
 
+#include <utility>
+
 namespace
 {
 // A wrapper without a widget of its own: the push button its constructor
@@ -57,4 +59,47 @@ void CKyUIDialogButtonBoxImpl::DisconnectButtonBoxImpl()
     QObject::disconnect(m_toolkitAccepted);
     QObject::disconnect(m_toolkitRejected);
     QObject::disconnect(m_toolkitClicked);
+}
+
+void CKyUIDialogButtonBoxImpl::SetInteractiveImpl(bool interactive)
+{
+    CKyUIBaseViewImpl::SetInteractiveImpl(interactive);
+    QDialogButtonBox* box = GetButtonBox();
+    if (box && interactive) {
+        // After the box's own connection on clicked, which stays quiet now.
+        LinkUserInput(QObject::connect(box, &QDialogButtonBox::clicked, box,
+                                       [this](QAbstractButton* button) { OnButtonClicked(button); }));
+        LinkUserInput(
+            QObject::connect(box, &QDialogButtonBox::helpRequested, box, [this]() { helpRequest.Emit(); }));
+    }
+    SetStandardButtonsImpl(
+        interactive ? m_chosenButtons
+                    : int(QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Help));
+    // They are no children of the box: the tree does not reach them.
+    for (CKyUIPushButton* wrapper : {m_okButton, m_cancelButton, m_helpButton}) {
+        if (wrapper)
+            wrapper->setInteractive(interactive);
+    }
+}
+
+void CKyUIDialogButtonBoxImpl::SetStandardButtonsImpl(int buttons)
+{
+    QDialogButtonBox* box = GetButtonBox();
+    const QDialogButtonBox::StandardButtons wanted{QFlag(buttons)};
+    if (!box || box->standardButtons() == wanted)
+        return;
+    // The toolkit deletes every button it had and makes the chosen ones anew.
+    box->setStandardButtons(wanted);
+    const std::pair<CKyUIPushButton*, QDialogButtonBox::StandardButton> wrappers[] = {
+        {m_okButton, QDialogButtonBox::Ok},
+        {m_cancelButton, QDialogButtonBox::Cancel},
+        {m_helpButton, QDialogButtonBox::Help}};
+    for (const auto& wrapper : wrappers) {
+        if (!wrapper.first)
+            continue;
+        wrapper.first->setHandle(box->button(wrapper.second));
+        // Its links, if any, went with the old button.
+        if (wrapper.first->isInteractive())
+            wrapper.first->setInteractive(true);
+    }
 }

@@ -106,11 +106,15 @@ void CKyUIDialogImpl::SetupUIImpl(QObject*)
     m_dialog->SetupUI();
 }
 
-int CKyUIDialogImpl::ExecImpl(bool)
+int CKyUIDialogImpl::ExecImpl(bool modal)
 {
     QDialog* dialog = DialogOf(owner());
     if (!dialog)
         return m_result;
+    if (!modal) {
+        dialog->show();
+        return m_result;
+    }
     bool releaseAfterRun = false;
     m_releaseAfterRun = &releaseAfterRun;
     const Lifetime lifetime = GetLifetime();
@@ -121,6 +125,15 @@ int CKyUIDialogImpl::ExecImpl(bool)
     else if (releaseAfterRun)
         delete guard.data();
     return result;
+}
+
+void CKyUIDialogImpl::LinkToolkitCloseImpl()
+{
+    // Our own closing only hides the dialog, which the toolkit does not
+    // report: what arrives here is the toolkit's close.
+    if (QDialog* dialog = DialogOf(owner()))
+        LinkUserInput(QObject::connect(dialog, &QDialog::finished, dialog,
+                                       [this](int result) { OnToolkitFinished(result); }));
 }
 
 void CKyUIDialogImpl::HideImpl()
