@@ -11,6 +11,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QtCore/QPointer>
 #include <QtGui/QValidator>
 #include <QtGui/QWheelEvent>
 #include <QtTest/QTest>
@@ -42,6 +43,8 @@ struct Scene
     std::function<void()> act;
     std::function<void(int)> apply;
     std::function<QString()> state;
+    // Connects to the signal the user's action reports first.
+    std::function<void(std::function<void()>)> first;
     std::vector<std::unique_ptr<QObject>> keep;
 };
 using Build = std::function<void(Scene&)>;
@@ -65,12 +68,13 @@ void PickWithMouse(QComboBox* combo, int row)
     if (combo->count() <= row)
         return;
     QTest::keyClick(combo, Qt::Key_F4);
-    QAbstractItemView* view = combo->view();
+    // A slot may delete the box on the pick.
+    QPointer<QAbstractItemView> view = combo->view();
     QTRY_VERIFY(view->isVisible());
     // The row may be wider than the drop-down.
     const QRect item = view->visualRect(view->model()->index(row, 0)) & view->viewport()->rect();
     Click(view->viewport(), item.center());
-    QTRY_VERIFY(!view->isVisible());
+    QTRY_VERIFY(!view || !view->isVisible());
 }
 
 CKyUICheckBox* MakeCheckBox(Scene& scene)
@@ -80,6 +84,7 @@ CKyUICheckBox* MakeCheckBox(Scene& scene)
     scene.root.reset(box);
     scene.log.on(box->stateChanged(), "state").on(box->toggled(), "toggled").on(box->clicked(), "clicked");
     scene.state = [box] { return QString(box->isChecked() ? "checked" : "unchecked"); };
+    scene.first = [box](std::function<void()> slot) { box->stateChanged().connect([slot](int) { slot(); }); };
     return box;
 }
 
@@ -95,6 +100,7 @@ CKyUIComboBox* MakeComboBox(Scene& scene)
     scene.log.on(box->activated(), "activated").on(box->editTextChanged(), "edit");
     scene.log.on(box->editingFinished(), "finished");
     scene.state = [box] { return QString("%1 %2").arg(box->currentIndex()).arg(box->currentText()); };
+    scene.first = [box](std::function<void()> slot) { box->currentIndexChanged().connect([slot](int) { slot(); }); };
     return box;
 }
 
@@ -117,6 +123,7 @@ CKyUIListBox* MakeListBox(Scene& scene)
             selected << QString::number(row);
         return QString("%1 row %2 sel %3").arg(flags).arg(list->currentRow()).arg(selected.join(','));
     };
+    scene.first = [list](std::function<void()> slot) { list->valueChanged().connect([slot](int) { slot(); }); };
     return list;
 }
 
@@ -143,6 +150,9 @@ CKyUIRadioGroup* MakeRadioGroup(Scene& scene, QList<CKyUIRadioButton*>& buttons)
         for (CKyUIRadioButton* button : buttons)
             flags += button->isChecked() ? '1' : '0';
         return QString("%1 current %2").arg(flags).arg(group->currentIndex());
+    };
+    scene.first = [buttons](std::function<void()> slot) {
+        buttons.first()->toggled().connect([slot](bool) { slot(); });
     };
     return group;
 }
@@ -425,5 +435,98 @@ TEST(InteractiveChoicesTest, InertOperationsTakeEffectWhileSwitchedOn)
         scene.apply(3);
         EXPECT_EQ(scene.state().toStdString(), (row.offAgain.isNull() ? row.onAgain : row.offAgain).toStdString());
         EXPECT_EQ(Lines(scene.log), "");
+    }
+}
+
+namespace
+{
+// An editable box of "A", "B" and "C", "A" current, beside a line edit to
+// take the focus: the user replaces the text, then ends with Return or Tab.
+struct EditRow
+{
+    const char* name;
+    bool interactive;
+    int policy;
+    const char* typed;
+    Qt::Key end;
+    QStringList emitted;
+    QString model;
+};
+} // namespace
+
+TEST(InteractiveChoicesTest, AnEditableBoxReportsTypingAndKeepsWhatReturnInsertsInItsModel)
+{
+    const int bottom = CKyUIComboBox::InsertAtBottom;
+    const QStringList edits = {"edit:F", "edit:Fe", "edit:Fee", "edit:Feet"};
+    const std::vector<EditRow> rows = {
+        {"inert", false, bottom, "Feet", Qt::Key_Return, {}, "0 A: A B C"},
+        {"at the bottom", true, bottom, "Feet", Qt::Key_Return,
+         edits + QStringList{"index:3", "text:Feet", "activated:3", "finished"}, "3 Feet: A B C Feet"},
+        // The current item moves down first.
+        {"at the top", true, CKyUIComboBox::InsertAtTop, "Feet", Qt::Key_Return,
+         edits + QStringList{"index:1", "text:A", "index:0", "text:Feet", "activated:0", "finished"},
+         "0 Feet: Feet A B C"},
+        {"replacing the current", true, CKyUIComboBox::InsertAtCurrent, "cm", Qt::Key_Return,
+         {"edit:c", "edit:cm", "finished"}, "0 cm: cm B C"},
+        {"not inserted", true, CKyUIComboBox::NoInsert, "Feet", Qt::Key_Return, edits + QStringList{"finished"},
+         "0 Feet: A B C"},
+        {"an item already there", true, bottom, "C", Qt::Key_Return,
+         {"edit:C", "index:2", "text:C", "activated:2", "finished"}, "2 C: A B C"},
+        {"digits only", true, bottom, "1a2", Qt::Key_Return,
+         {"edit:1", "edit:12", "index:3", "text:12", "activated:3", "finished"}, "3 12: A B C 12"},
+        {"leaving the field", true, bottom, "Feet", Qt::Key_Tab, edits + QStringList{"finished"}, "0 Feet: A B C"},
+    };
+    QRegExpValidator digits(QRegExp("[0-9]*"));
+    for (const EditRow& row : rows) {
+        SCOPED_TRACE(row.name);
+        QWidget window; // holds the box's widget, so it goes after the box
+        Scene scene;
+        CKyUIComboBox* box = MakeComboBox(scene);
+        scene.log.take();
+        box->setEditable(true);
+        box->setInsertPolicy(static_cast<CKyUIComboBox::InsertPolicy>(row.policy));
+        if (row.name == std::string("digits only"))
+            box->setValidator(&digits);
+        box->setInteractive(row.interactive);
+        auto* layout = new QVBoxLayout(&window);
+        layout->addWidget(scene.widget());
+        layout->addWidget(new QLineEdit);
+        window.show();
+        QApplication::setActiveWindow(&window);
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+        // The box takes the keys for its edit field.
+        QComboBox* widget = Shown<QComboBox>(box);
+        widget->lineEdit()->setFocus();
+        QTest::keyClick(widget, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(widget, row.typed);
+        QTest::keyClick(widget, row.end);
+        EXPECT_EQ(Lines(scene.log), row.emitted.join(" | ").toStdString());
+        QStringList model;
+        for (int i = 0; i < box->count(); ++i)
+            model << box->itemText(i);
+        EXPECT_EQ((scene.state() + ": " + model.join(' ')).toStdString(), row.model.toStdString());
+        // The widget's items are the model's, once it follows its user.
+        if (row.interactive) {
+            EXPECT_EQ(widget->count(), box->count());
+        }
+    }
+}
+
+// Each action's first report may delete the control: the later ones are not
+// made, and nothing is touched afterwards.
+TEST(InteractiveChoicesTest, ASlotMayDeleteTheControlItHears)
+{
+    for (const UserRow& row : UserRows()) {
+        SCOPED_TRACE(row.name);
+        Scene scene;
+        row.build(scene);
+        scene.widget()->show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(scene.widget()));
+        scene.Switch(true);
+        scene.first([&scene] { scene.root.reset(); });
+        scene.act();
+        EXPECT_EQ(scene.root, nullptr);
+        EXPECT_EQ(Lines(scene.log), row.on.first().toStdString());
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 }
