@@ -250,4 +250,3 @@ int CKyUIComboBoxImpl::InsertPosition(int index) const
 {
     return std::max(0, std::min(index, int(m_items.size())));
 }
-

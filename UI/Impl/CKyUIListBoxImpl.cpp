@@ -7,8 +7,7 @@
 CKyUIListBoxImpl::CKyUIListBoxImpl(CKyUIObject* owner)
     : CKyUIBaseViewImpl(owner)
     , valueChanged(owner)
-{
-}
+{}
 
 CKyUIListBoxImpl::~CKyUIListBoxImpl() = default;
 
@@ -109,8 +108,8 @@ void CKyUIListBoxImpl::OnSelectionShown(const QList<int>& selected, const QList<
     // The program's own selections arrive here too, already stored: silent.
     if (!changed)
         return;
-    const bool any = std::any_of(m_itemDefs.cbegin(), m_itemDefs.cend(),
-                                 [](const ItemDef& def) { return def.selected; });
+    const bool any =
+        std::any_of(m_itemDefs.cbegin(), m_itemDefs.cend(), [](const ItemDef& def) { return def.selected; });
     valueChanged.Emit(any ? 1 : 0);
 }
 

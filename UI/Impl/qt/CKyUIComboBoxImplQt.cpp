@@ -230,13 +230,14 @@ void CKyUIComboBoxImpl::SetInteractiveImpl(bool interactive)
         if (m_hideEmptyText)
             HideEmptyRowsImpl();
     }));
-    LinkUserInput(QObject::connect(model, &QAbstractItemModel::dataChanged, comboBox,
-                                   [this, comboBox](const QModelIndex& topLeft, const QModelIndex& bottomRight) {
-                                       for (int row = topLeft.row(); row <= bottomRight.row(); ++row)
-                                           OnRowRenamed(row, comboBox->itemText(row));
-                                       if (m_hideEmptyText)
-                                           HideEmptyRowsImpl();
-                                   }));
+    LinkUserInput(
+        QObject::connect(model, &QAbstractItemModel::dataChanged, comboBox,
+                         [this, comboBox](const QModelIndex& topLeft, const QModelIndex& bottomRight) {
+                             for (int row = topLeft.row(); row <= bottomRight.row(); ++row)
+                                 OnRowRenamed(row, comboBox->itemText(row));
+                             if (m_hideEmptyText)
+                                 HideEmptyRowsImpl();
+                         }));
     // The widget reports a new index before the rows that caused it, so the
     // model takes them in first.
     LinkUserInput(QObject::connect(comboBox, QOverload<int>::of(&QComboBox::currentIndexChanged), comboBox,

@@ -79,11 +79,11 @@ void CKyUIListBoxImpl::SetInteractiveImpl(bool interactive)
     else
         m_currentRow = -1;
     // The current row is set before the selection is reported.
-    LinkUserInput(QObject::connect(
-        list->selectionModel(), &QItemSelectionModel::selectionChanged, list,
-        [this, list](const QItemSelection& selected, const QItemSelection& deselected) {
-            OnSelectionShown(RowsOf(selected), RowsOf(deselected), list->currentRow());
-        }));
+    LinkUserInput(
+        QObject::connect(list->selectionModel(), &QItemSelectionModel::selectionChanged, list,
+                         [this, list](const QItemSelection& selected, const QItemSelection& deselected) {
+                             OnSelectionShown(RowsOf(selected), RowsOf(deselected), list->currentRow());
+                         }));
     LinkUserInput(QObject::connect(list, &QListWidget::currentRowChanged, list,
                                    [this](int row) { OnCurrentRowShown(row); }));
 }
