@@ -24,9 +24,15 @@ bool CKyUICheckBox::isChecked() const
     return implAs<CKyUICheckBoxImpl>()->IsChecked();
 }
 
-void CKyUICheckBox::setTextSize(float) {}
+void CKyUICheckBox::setTextSize(float size)
+{
+    implAs<CKyUICheckBoxImpl>()->SetTextSize(size);
+}
 
-void CKyUICheckBox::setResourceIcon(const QString&) {}
+void CKyUICheckBox::setResourceIcon(const QString& name)
+{
+    implAs<CKyUICheckBoxImpl>()->SetResourceIcon(name);
+}
 
 CKyUISignal<void(int)>& CKyUICheckBox::stateChanged()
 {

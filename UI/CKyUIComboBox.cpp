@@ -75,7 +75,10 @@ void CKyUIComboBox::setItemData(int index, const QVariant& value, int role)
     implAs<CKyUIComboBoxImpl>()->SetItemData(index, value, role);
 }
 
-void CKyUIComboBox::setItemText(int, const QString&) {}
+void CKyUIComboBox::setItemText(int index, const QString& text)
+{
+    implAs<CKyUIComboBoxImpl>()->SetItemText(index, text);
+}
 
 int CKyUIComboBox::findText(const QString& text, Qt::MatchFlags) const
 {
@@ -117,7 +120,10 @@ void CKyUIComboBox::clearEditText()
     implAs<CKyUIComboBoxImpl>()->ClearEditText();
 }
 
-void CKyUIComboBox::setHideEmptyText(bool) {}
+void CKyUIComboBox::setHideEmptyText(bool hide)
+{
+    implAs<CKyUIComboBoxImpl>()->SetHideEmptyText(hide);
+}
 
 void CKyUIComboBox::setIconSize(QSize size)
 {
@@ -129,9 +135,15 @@ void CKyUIComboBox::setMaxVisibleItems(int count)
     implAs<CKyUIComboBoxImpl>()->SetMaxVisibleItems(count);
 }
 
-void CKyUIComboBox::setInsertPolicy(InsertPolicy) {}
+void CKyUIComboBox::setInsertPolicy(InsertPolicy policy)
+{
+    implAs<CKyUIComboBoxImpl>()->SetInsertPolicy(policy);
+}
 
-void CKyUIComboBox::setValidator(const QValidator*) {}
+void CKyUIComboBox::setValidator(const QValidator* validator)
+{
+    implAs<CKyUIComboBoxImpl>()->SetValidator(validator);
+}
 
 CKyUISignal<void(int)>& CKyUIComboBox::activated()
 {
@@ -144,6 +156,11 @@ CKyUISignal<void(int)>& CKyUIComboBox::currentIndexChanged()
 }
 
 CKyUISignal<void(const QString&)>& CKyUIComboBox::currentStringChanged()
+{
+    return implAs<CKyUIComboBoxImpl>()->currentStringChanged;
+}
+
+CKyUISignal<void(const QString&)>& CKyUIComboBox::currentTextChanged()
 {
     return implAs<CKyUIComboBoxImpl>()->currentStringChanged;
 }

@@ -18,3 +18,13 @@ void CKyUIRadioGroup::addRadioButton(CKyUIRadioButton* button)
 {
     implAs<CKyUIRadioGroupImpl>()->AddRadioButton(button);
 }
+
+int CKyUIRadioGroup::currentIndex() const
+{
+    return implAs<CKyUIRadioGroupImpl>()->CurrentIndex();
+}
+
+CKyUISignal<void(int)>& CKyUIRadioGroup::currentIndexChanged()
+{
+    return implAs<CKyUIRadioGroupImpl>()->currentIndexChanged;
+}

@@ -31,6 +31,28 @@ void CKyUICheckBoxImpl::SetChecked(bool checked)
     EmitState(checked);
 }
 
+void CKyUICheckBoxImpl::SetTextSize(float size)
+{
+    m_textSize = size;
+    SetTextSizeImpl(size);
+}
+
+void CKyUICheckBoxImpl::SetResourceIcon(const QString& name)
+{
+    if (m_resourceIcon == name)
+        return;
+    m_resourceIcon = name;
+    SetResourceIconImpl(m_resourceIcon);
+}
+
+void CKyUICheckBoxImpl::OnClicked(bool checked)
+{
+    // The toolkit's own order: state, toggle, click.
+    m_checked = checked;
+    EmitInOrder([&] { stateChanged.Emit(checked ? 1 : 0); }, [&] { toggled.Emit(checked); },
+                [&] { clicked.Emit(checked); });
+}
+
 void CKyUICheckBoxImpl::OnSwitchChanged(bool checked)
 {
     m_checked = checked;

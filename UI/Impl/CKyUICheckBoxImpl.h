@@ -16,13 +16,22 @@ public:
     const QString& Text() const { return m_text; }
     void SetChecked(bool checked);
     bool IsChecked() const { return m_checked; }
+    // Kept always, shown only while the box follows its user.
+    void SetTextSize(float size);
+    void SetResourceIcon(const QString& name);
+
+    void SetInteractiveImpl(bool interactive) override;
 
     // What a toggle of the widget would mean to the model. Deliberately left
     // unconnected: a user's click changes only what the widget shows.
     void OnSwitchChanged(bool checked);
+    // A click of the user on a box that follows its user.
+    void OnClicked(bool checked);
 
     void SetTextImpl(const QString& text);
     void SetCheckedImpl(bool checked);
+    void SetTextSizeImpl(float size);
+    void SetResourceIconImpl(const QString& name);
 
     CKyUISignal<void(int)> stateChanged;
     CKyUISignal<void(bool)> toggled;
@@ -33,4 +42,6 @@ private:
 
     bool m_checked = false;
     QString m_text;
+    float m_textSize = 0; // not set
+    QString m_resourceIcon;
 };

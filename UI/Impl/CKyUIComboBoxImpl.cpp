@@ -1,5 +1,9 @@
 #include "UI/Impl/CKyUIComboBoxImpl.h"
 
+#include "UI/CKyUIObject.h"
+
+#include <QtGui/QValidator>
+
 #include <algorithm>
 
 CKyUIComboBoxImpl::CKyUIComboBoxImpl(CKyUIObject* owner)
@@ -150,12 +154,46 @@ void CKyUIComboBoxImpl::ClearEditText()
 
 void CKyUIComboBoxImpl::SetIconSize(QSize size)
 {
+    m_iconSize = size;
     SetIconSizeImpl(size);
 }
 
 void CKyUIComboBoxImpl::SetMaxVisibleItems(int count)
 {
+    m_maxVisibleItems = count;
     SetMaxVisibleItemsImpl(count);
+}
+
+void CKyUIComboBoxImpl::SetItemText(int index, const QString& text)
+{
+    // Ignored unless the box follows its user.
+    if (!owner()->isInteractive() || !InRange(index))
+        return;
+    std::get<1>(m_items[index]) = text;
+    SetItemTextImpl(index, text);
+    if (index != m_currentIndex || m_currentText == text)
+        return;
+    m_currentText = text;
+    currentStringChanged.Emit(text);
+}
+
+void CKyUIComboBoxImpl::SetHideEmptyText(bool hide)
+{
+    m_hideEmptyText = hide;
+    SetHideEmptyTextImpl(hide);
+}
+
+void CKyUIComboBoxImpl::SetInsertPolicy(int policy)
+{
+    m_insertPolicy = policy;
+    SetInsertPolicyImpl(policy);
+}
+
+void CKyUIComboBoxImpl::SetValidator(const QValidator* validator)
+{
+    // The widget takes it as const; the pointer only follows its life.
+    m_validator = const_cast<QValidator*>(validator);
+    SetValidatorImpl(validator);
 }
 
 void CKyUIComboBoxImpl::OnCurrentIndexChanged(int index)
@@ -180,15 +218,35 @@ void CKyUIComboBoxImpl::OnEditingFinished()
     editingFinished.Emit();
 }
 
+void CKyUIComboBoxImpl::OnIndexShown(int index)
+{
+    if (index == m_currentIndex)
+        return;
+    m_currentIndex = index;
+    m_currentText = ItemText(index);
+    const QString text = m_currentText;
+    EmitInOrder([&] { currentIndexChanged.Emit(index); }, [&] { currentStringChanged.Emit(text); });
+}
+
+void CKyUIComboBoxImpl::OnActivated(int index)
+{
+    activated.Emit(index);
+}
+
+void CKyUIComboBoxImpl::OnRowsAdded(int first, const QStringList& texts)
+{
+    first = InsertPosition(first);
+    for (const QString& text : texts)
+        m_items.insert(first++, Item(QIcon(), text, QVariant()));
+}
+
+void CKyUIComboBoxImpl::OnRowRenamed(int index, const QString& text)
+{
+    if (InRange(index))
+        std::get<1>(m_items[index]) = text;
+}
+
 int CKyUIComboBoxImpl::InsertPosition(int index) const
 {
     return std::max(0, std::min(index, int(m_items.size())));
 }
-
-void CKyUIComboBoxImpl::AddItemImpl(const QString&) {}
-
-void CKyUIComboBoxImpl::SetHideEmptyTextImpl(bool) {}
-
-void CKyUIComboBoxImpl::SetIconSizeImpl(QSize) {}
-
-void CKyUIComboBoxImpl::SetMaxVisibleItemsImpl(int) {}

@@ -3,12 +3,16 @@
 #include "UI/CKyUISignal.h"
 #include "UI/Impl/CKyUIBaseViewImpl.h"
 
+#include <QtCore/QPointer>
 #include <QtCore/QSize>
 #include <QtCore/QStringList>
 #include <QtCore/QVector>
 #include <QtGui/QIcon>
 
 #include <tuple>
+
+class QLineEdit;
+class QValidator;
 
 class CKyUIComboBoxImpl : public CKyUIBaseViewImpl
 {
@@ -51,12 +55,27 @@ public:
     void ClearEditText();
     void SetIconSize(QSize size);
     void SetMaxVisibleItems(int count);
+    // Kept always; they reach the widget only while the box follows its user.
+    void SetItemText(int index, const QString& text);
+    void SetHideEmptyText(bool hide);
+    void SetInsertPolicy(int policy);
+    void SetValidator(const QValidator* validator);
+
+    void SetInteractiveImpl(bool interactive) override;
 
     // What a change in the widget would mean to the model. Deliberately left
     // unconnected: the user's choice moves neither the model nor a signal.
     void OnCurrentIndexChanged(int index);
     void OnEditTextChanged(const QString& text);
     void OnEditingFinished();
+    // The user's choice while the box follows its user, in the toolkit's
+    // order: the index shown changes, then the choice is reported.
+    void OnIndexShown(int index);
+    void OnActivated(int index);
+    // Rows the widget made by itself (the user's Return in an editable box)
+    // or renamed, taken into the model.
+    void OnRowsAdded(int first, const QStringList& texts);
+    void OnRowRenamed(int index, const QString& text);
 
     void ClearImpl();
     void AddItemImpl(const QString& text);
@@ -72,6 +91,8 @@ public:
     void SetHideEmptyTextImpl(bool hide);
     void SetIconSizeImpl(QSize size);
     void SetMaxVisibleItemsImpl(int count);
+    void SetInsertPolicyImpl(int policy);
+    void SetValidatorImpl(const QValidator* validator);
 
     CKyUISignal<void(int)> activated;
     CKyUISignal<void(int)> currentIndexChanged;
@@ -85,8 +106,26 @@ private:
     // the widget does, so the two stay in step.
     int InsertPosition(int index) const;
 
+    // While interactive: the edit field's signals and the rows the widget
+    // inserts, taken into the model.
+    void LinkEditFieldImpl();
+    void MirrorModelImpl();
+    void AdoptWidgetRowsImpl();
+    void HideEmptyRowsImpl();
+
     bool m_editable = false;
     int m_currentIndex = -1;
     QString m_currentText;
     QVector<Item> m_items;
+    // Options kept for when the box follows its user; unset at first.
+    QSize m_iconSize;
+    int m_maxVisibleItems = -1;
+    int m_insertPolicy = -1;
+    bool m_hideEmptyText = false;
+    QPointer<QValidator> m_validator;
+    // The edit field whose signals are linked, and rows the widget is about
+    // to insert by itself.
+    QPointer<QLineEdit> m_linkedEditField;
+    int m_widgetRowsFirst = -1;
+    int m_widgetRowsLast = -1;
 };

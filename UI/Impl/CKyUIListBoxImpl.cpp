@@ -1,10 +1,13 @@
 #include "UI/Impl/CKyUIListBoxImpl.h"
 
+#include "UI/CKyUIObject.h"
+
+#include <algorithm>
+
 CKyUIListBoxImpl::CKyUIListBoxImpl(CKyUIObject* owner)
     : CKyUIBaseViewImpl(owner)
     , valueChanged(owner)
-{
-}
+{}
 
 CKyUIListBoxImpl::~CKyUIListBoxImpl() = default;
 
@@ -54,34 +57,60 @@ bool CKyUIListBoxImpl::IsItemSelected(int row) const
 
 void CKyUIListBoxImpl::SetItemText(int row, const QString& text)
 {
-    // The stored text stays as it is.
+    // The stored text stays as it is unless the list follows its user.
+    if (owner()->isInteractive() && IsRow(row))
+        m_items[row] = text;
     SetItemTextImpl(row, text);
 }
 
 void CKyUIListBoxImpl::ClearSelection()
 {
-    // The flags stay as they are.
+    // The flags stay as they are unless the list follows its user.
+    if (owner()->isInteractive()) {
+        for (ItemDef& def : m_itemDefs)
+            def.selected = false;
+    }
     ClearSelectionImpl();
 }
 
-void CKyUIListBoxImpl::AddItemImpl(const QString&)
+int CKyUIListBoxImpl::CurrentRow() const
 {
+    return owner()->isInteractive() ? m_currentRow : 0;
 }
 
-void CKyUIListBoxImpl::ClearImpl()
+QList<int> CKyUIListBoxImpl::SelectedItems() const
 {
+    QList<int> rows;
+    if (!owner()->isInteractive())
+        return rows;
+    for (int row = 0; row < m_itemDefs.size(); ++row) {
+        if (m_itemDefs.at(row).selected)
+            rows << row;
+    }
+    return rows;
 }
 
-void CKyUIListBoxImpl::SetItemSelectedImpl(int, bool)
+void CKyUIListBoxImpl::OnSelectionShown(const QList<int>& selected, const QList<int>& deselected,
+                                        int currentRow)
 {
-}
-
-void CKyUIListBoxImpl::ClearSelectionImpl()
-{
-}
-
-void CKyUIListBoxImpl::SetItemTextImpl(int, const QString&)
-{
+    m_currentRow = currentRow;
+    bool changed = false;
+    const auto mark = [&](const QList<int>& rows, bool flag) {
+        for (int row : rows) {
+            if (IsRow(row) && m_itemDefs.at(row).selected != flag) {
+                m_itemDefs[row].selected = flag;
+                changed = true;
+            }
+        }
+    };
+    mark(deselected, false);
+    mark(selected, true);
+    // The program's own selections arrive here too, already stored: silent.
+    if (!changed)
+        return;
+    const bool any =
+        std::any_of(m_itemDefs.cbegin(), m_itemDefs.cend(), [](const ItemDef& def) { return def.selected; });
+    valueChanged.Emit(any ? 1 : 0);
 }
 
 void CKyUIListBoxImpl::OnItemSelected(int row, bool selected)

@@ -8,8 +8,8 @@
 #include <QtCore/QVariant>
 #include <QtCore/QVector>
 
-// The list box's model. The hooks that would mirror it into the widget are
-// empty, so the widget stays empty.
+// The list box's model. The hooks that mirror it into the widget do nothing
+// unless the list follows its user, so the widget stays empty.
 class CKyUIListBoxImpl : public CKyUIBaseViewImpl
 {
 public:
@@ -36,8 +36,9 @@ public:
     bool IsItemSelected(int row) const;
     void SetItemText(int row, const QString& text);
     void ClearSelection();
-    int CurrentRow() const { return 0; }
-    QList<int> SelectedItems() const { return QList<int>(); }
+    // 0 and an empty list unless the list follows its user.
+    int CurrentRow() const;
+    QList<int> SelectedItems() const;
     const QVector<ItemDef>& ItemDefs() const { return m_itemDefs; }
 
     void AddItemImpl(const QString& text);
@@ -48,6 +49,11 @@ public:
 
     // Not connected to anything: the widget never reports a selection.
     void OnItemSelected(int row, bool selected);
+    // The user's selection while the list follows its user: the flags follow,
+    // and valueChanged reports once whether any item is selected.
+    void OnSelectionShown(const QList<int>& selected, const QList<int>& deselected, int currentRow);
+    void OnCurrentRowShown(int row) { m_currentRow = row; }
+    void SetInteractiveImpl(bool interactive) override;
 
     CKyUISignal<void(int)> valueChanged;
 
@@ -56,6 +62,7 @@ private:
 
     QList<QString> m_items;
     QVector<ItemDef> m_itemDefs;
+    int m_currentRow = -1;
     // Answers a row outside the list instead of undefined behaviour.
     QString m_outOfRangeItem;
 };

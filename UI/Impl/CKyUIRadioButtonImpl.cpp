@@ -48,6 +48,14 @@ void CKyUIRadioButtonImpl::OnToggled(bool checked)
     released.Emit();
 }
 
+void CKyUIRadioButtonImpl::OnUserToggled(bool checked)
+{
+    if (m_checked == checked)
+        return;
+    m_checked = checked;
+    toggled.Emit(checked);
+}
+
 void CKyUIRadioButtonImpl::SetContainer(CKyUIRadioGroupImpl* container)
 {
     m_container = container;

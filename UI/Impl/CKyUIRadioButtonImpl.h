@@ -26,6 +26,14 @@ public:
     void SetContainer(CKyUIRadioGroupImpl* container);
     CKyUIRadioGroupImpl* Container() const { return m_container; }
 
+    // A toggle of the widget while the button follows its user: the stored
+    // state follows it, unlike OnToggled, which also reports a release.
+    void OnUserToggled(bool checked);
+    void SetInteractiveImpl(bool interactive) override;
+    // Makes the widget show the stored state, which a click made while the
+    // button ignored its user may have left behind.
+    void ShowStoredState();
+
     void SetTextImpl(const QString& text);
     void SetCheckedImpl(bool checked);
 

@@ -1,9 +1,11 @@
 #include "UI/Impl/CKyUIRadioGroupImpl.h"
 
+#include "UI/CKyUIGroupBox.h"
 #include "UI/CKyUIRadioButton.h"
 
 CKyUIRadioGroupImpl::CKyUIRadioGroupImpl(CKyUIObject* owner)
     : CKyUIBaseViewImpl(owner)
+    , currentIndexChanged(owner)
 {}
 
 QString CKyUIRadioGroupImpl::GetFrontendClassName()
@@ -24,8 +26,46 @@ void CKyUIRadioGroupImpl::AddRadioButton(CKyUIRadioButton* button)
     if (!button)
         return;
     button->setParent(owner());
+    // A button listed before keeps the link it has.
+    const bool linked = m_buttons.contains(button);
     m_buttons.append(button);
     AddRadioButtonImpl(button);
+    if (!owner()->isInteractive())
+        return;
+    SetInteractiveTree(button, true);
+    if (!linked)
+        LinkButtonImpl(button);
+}
+
+int CKyUIRadioGroupImpl::CurrentIndex() const
+{
+    for (int i = 0; i < m_buttons.size(); ++i) {
+        if (Holds(m_buttons.at(i)) && m_buttons.at(i)->isChecked())
+            return i;
+    }
+    return -1;
+}
+
+bool CKyUIRadioGroupImpl::Holds(CKyUIRadioButton* button) const
+{
+    return owner()->children().contains(button);
+}
+
+void CKyUIRadioGroupImpl::OnButtonChecked(CKyUIRadioButton* checked)
+{
+    if (!Holds(checked))
+        return;
+    const Lifetime lifetime = GetLifetime();
+    const QList<CKyUIRadioButton*> buttons = m_buttons;
+    for (CKyUIRadioButton* button : buttons) {
+        // A slot may delete a button, or the group with all of them.
+        if (!lifetime.Alive())
+            return;
+        if (Holds(button))
+            button->setChecked(button == checked);
+    }
+    if (lifetime.Alive())
+        currentIndexChanged.Emit(CurrentIndex());
 }
 
 void CKyUIRadioGroupImpl::OnCurrentIndexChanged(int index)
@@ -49,7 +89,14 @@ void CKyUIRadioGroupImpl::SetCurrent(CKyUIRadioButton* button)
         SetCurrentImpl(index);
 }
 
-void CKyUIRadioGroupImpl::SetTitleImpl(const QString&) {}
+void CKyUIRadioGroupImpl::SetTitleImpl(const QString& title)
+{
+    // Shown only by an interactive group, as the title of its group box.
+    if (!owner()->isInteractive())
+        return;
+    if (auto* box = dynamic_cast<CKyUIGroupBox*>(owner()->parent()))
+        box->setTitle(title);
+}
 
 void CKyUIRadioGroupImpl::SetTextImpl(int, const QString&) {}
 

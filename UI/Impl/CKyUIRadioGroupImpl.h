@@ -1,5 +1,6 @@
 #pragma once
 
+#include "UI/CKyUISignal.h"
 #include "UI/Impl/CKyUIBaseViewImpl.h"
 
 #include <QtCore/QList>
@@ -23,18 +24,31 @@ public:
     // Not owned: the object tree owns the buttons.
     const QList<CKyUIRadioButton*>& Buttons() const { return m_buttons; }
 
+    // The first checked button that still belongs to the group, or -1.
+    int CurrentIndex() const;
+
     // What a change of the current button would mean, and per-button hooks.
     // Nothing in the library calls them.
     void OnCurrentIndexChanged(int index);
     void SetText(CKyUIRadioButton* button, const QString& text);
     void SetCurrent(CKyUIRadioButton* button);
 
+    // A button of an interactive group became checked on screen.
+    void OnButtonChecked(CKyUIRadioButton* checked);
+    void SetInteractiveImpl(bool interactive) override;
+
     void SetTitleImpl(const QString& title);
     void AddRadioButtonImpl(CKyUIRadioButton* button);
     void SetTextImpl(int index, const QString& text);
     void SetCurrentImpl(int index);
+    void LinkButtonImpl(CKyUIRadioButton* button);
+
+    CKyUISignal<void(int)> currentIndexChanged;
 
 private:
+    // A deleted button stays listed; asking the tree is the safe test.
+    bool Holds(CKyUIRadioButton* button) const;
+
     QList<CKyUIRadioButton*> m_buttons;
     QString m_title;
     // The group's toolkit object; no button is ever added to it.

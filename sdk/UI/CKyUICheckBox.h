@@ -11,6 +11,11 @@
 /// signal fires. Read the state your program set, or offer a push button for
 /// actions. The box is 25 pixels high; the theme draws its indicator.
 ///
+/// Under setInteractive(true) the box follows its user: a click (or the space
+/// key) stores the new state and emits stateChanged (1 or 0), toggled, then
+/// clicked, once each; the emissions stop if a slot deletes the box. Switching
+/// on first shows the state the program set.
+///
 /// \image html choices.png "Check boxes, radio buttons, combo boxes, sliders and the list box"
 class COMMONUI_EXPORT CKyUICheckBox : public CKyUIBaseView
 {
@@ -24,17 +29,22 @@ public:
     /// Emits stateChanged (1 or 0) then toggled, only when the state changes.
     /// With the signals blocked the state is still stored and shown.
     void setChecked(bool checked);
-    /// The state last set by the program; a click on the widget does not count.
+    /// The state last set by the program; a click on the widget counts only
+    /// while the box is interactive.
     bool isChecked() const;
-    /// Accepted and ignored.
+    /// The text's size in points. Kept, and applied only while the box is
+    /// interactive (a size set again replaces the earlier one).
     void setTextSize(float size);
-    /// Accepted and ignored.
+    /// An icon beside the text, loaded from a resource path such as
+    /// ":/plugin/icons/unit.png" (or a file). Kept, and shown only while the
+    /// box is interactive.
     void setResourceIcon(const QString& name);
 
     /// Emitted by setChecked() with 1 (checked) or 0, before toggled().
     CKyUISignal<void(int)>& stateChanged();
     /// Emitted by setChecked() with the new state, after stateChanged().
     CKyUISignal<void(bool)>& toggled();
-    /// Offered for connection; never emitted.
+    /// Emitted, after toggled(), when the user clicks an interactive box;
+    /// never otherwise.
     CKyUISignal<void(bool)>& clicked();
 };

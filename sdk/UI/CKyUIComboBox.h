@@ -20,19 +20,34 @@ class QValidator;
 /// editingFinished() are never emitted. The widget is a fixed 100 by 25
 /// pixels; the theme draws its arrow.
 ///
+/// Under setInteractive(true) the box follows its user, and the model and the
+/// widget hold the same items (switching on shows every item of the model,
+/// also those added without an icon). A choice by mouse, keyboard or wheel
+/// stores the new index and text and emits currentIndexChanged, then
+/// currentStringChanged (also reachable as currentTextChanged), then
+/// activated; the index also follows the widget when the program's items move
+/// it (the first item added to an empty box becomes current). In an editable
+/// box, typing stores the text and emits editTextChanged; Return and leaving
+/// the field emit editingFinished, and an item that Return inserts (see
+/// setInsertPolicy) joins the model with no user data. setItemText,
+/// setHideEmptyText, setIconSize, setMaxVisibleItems, setInsertPolicy and
+/// setValidator take effect; they are kept while the box is inert and applied
+/// when it is switched on.
+///
 /// \image html choices.png "Combo boxes, one editable, among the other choices"
 class COMMONUI_EXPORT CKyUIComboBox : public CKyUIBaseView
 {
 public:
-    /// Accepted by setInsertPolicy, which has no effect.
+    /// Where Return in an interactive, editable box puts a text that is not
+    /// yet an item; no effect while the box is inert.
     enum InsertPolicy : int {
-        NoInsert,             ///< Accepted, no effect.
-        InsertAtTop,          ///< Accepted, no effect.
-        InsertAtCurrent,      ///< Accepted, no effect.
-        InsertAtBottom,       ///< Accepted, no effect.
-        InsertAfterCurrent,   ///< Accepted, no effect.
-        InsertBeforeCurrent,  ///< Accepted, no effect.
-        InsertAlphabetically, ///< Accepted, no effect.
+        NoInsert,             ///< Not inserted.
+        InsertAtTop,          ///< As the first item.
+        InsertAtCurrent,      ///< Replaces the current item's text.
+        InsertAtBottom,       ///< As the last item (the widget's default).
+        InsertAfterCurrent,   ///< After the current item.
+        InsertBeforeCurrent,  ///< Before the current item.
+        InsertAlphabetically, ///< In alphabetical order.
     };
 
     /// An empty, non-editable combo box: count() 0, currentIndex() -1,
@@ -73,7 +88,9 @@ public:
     /// Replaces the item's user data; the role is not used, an index out of
     /// range is ignored.
     void setItemData(int index, const QVariant& value, int role = Qt::UserRole);
-    /// Accepted and ignored.
+    /// Ignored while the box is inert. Interactive: renames the item in the
+    /// model and the widget (an index out of range is ignored); renaming the
+    /// current item emits currentStringChanged.
     void setItemText(int index, const QString& text);
     /// Exact and case-sensitive whatever the flags; -1 when absent.
     int findText(const QString& text,
@@ -88,7 +105,8 @@ public:
     /// An index out of range is ignored; the same index again emits nothing
     /// but still selects the item in the widget.
     void setCurrentIndex(int index);
-    /// The index last set by the program; -1 at first.
+    /// The index last set by the program (or, interactive, chosen by the
+    /// user); -1 at first.
     int currentIndex() const;
     /// Changes the current text only; the index stays. A new text is shown
     /// (in an editable box) and emits currentStringChanged once.
@@ -101,27 +119,36 @@ public:
     /// Empties the stored current text; the widget is not touched, no signal.
     void clearEditText();
 
-    /// Accepted and ignored.
+    /// Interactive only: items with an empty text are left out of the
+    /// drop-down.
     void setHideEmptyText(bool hide);
-    /// Accepted and ignored.
+    /// Interactive only: the size of the items' icons.
     void setIconSize(QSize size);
-    /// Accepted and ignored.
+    /// Interactive only: how many items the drop-down shows before it
+    /// scrolls.
     void setMaxVisibleItems(int count);
-    /// Accepted and ignored.
+    /// Interactive only: where Return puts a new text (see InsertPolicy).
     void setInsertPolicy(InsertPolicy policy);
-    /// Accepted and ignored.
+    /// Interactive only: checks what the user types into an editable box.
+    /// The validator stays the caller's.
     void setValidator(const QValidator* validator);
 
-    /// Offered for connection; never emitted.
+    /// Emitted when the user chooses an item of an interactive box, after
+    /// currentStringChanged(); never otherwise.
     CKyUISignal<void(int)>& activated();
     /// Emitted by setCurrentIndex() with the new index, before
     /// currentStringChanged().
     CKyUISignal<void(int)>& currentIndexChanged();
     /// Emitted by setCurrentIndex() (the new item's text) and by
-    /// setCurrentText() (the new text).
+    /// setCurrentText() (the new text), and after currentIndexChanged() when
+    /// an interactive box's index changes.
     CKyUISignal<void(const QString&)>& currentStringChanged();
-    /// Offered for connection; never emitted.
+    /// The same signal as currentStringChanged(), under the toolkit's name.
+    CKyUISignal<void(const QString&)>& currentTextChanged();
+    /// Emitted with the text as the user types into an interactive, editable
+    /// box; never otherwise.
     CKyUISignal<void(const QString&)>& editTextChanged();
-    /// Offered for connection; never emitted.
+    /// Emitted on Return and when the edit field of an interactive, editable
+    /// box loses the focus; never otherwise.
     CKyUISignal<void()>& editingFinished();
 };

@@ -12,6 +12,11 @@
 /// kept by the library alone: every query answers from it, and the toolkit
 /// widget stays empty. No public operation emits valueChanged.
 ///
+/// Under setInteractive(true) the widget shows the model: its items, texts
+/// and selected flags, at once and as they change. The user's selection
+/// (mouse or keyboard) sets the flags, currentRow() and selectedItems(), and
+/// emits valueChanged once; setItemText and clearSelection take effect.
+///
 /// \image html choices.png "The list box, coloured through setPalette, among the choices"
 class COMMONUI_EXPORT CKyUIListBox : public CKyUIBaseView
 {
@@ -41,17 +46,20 @@ public:
     /// The item's flag; false for a row out of range.
     bool isItemSelected(int row) const;
 
-    /// Leaves the list as it is: the text does not change.
+    /// Leaves the list as it is: the text does not change. Interactive:
+    /// renames the item (a row out of range is ignored).
     void setItemText(int row, const QString& text);
-    /// Leaves the list as it is: the flags are not reset.
+    /// Leaves the list as it is: the flags are not reset. Interactive:
+    /// unselects every item, silently.
     void clearSelection();
 
-    /// Always 0.
+    /// Always 0. Interactive: the row the user last moved to, -1 for none.
     int currentRow() const;
-    /// Always empty, whatever the flags say.
+    /// Always empty, whatever the flags say. Interactive: the selected rows,
+    /// in order.
     QList<int> selectedItems() const;
 
-    /// 1 when some item is selected, 0 when none. Offered for connection; no
-    /// public operation emits it.
+    /// 1 when some item is selected, 0 when none. No public operation emits
+    /// it; an interactive list emits it when the user's selection changes.
     CKyUISignal<void(int)>& valueChanged();
 };

@@ -12,6 +12,11 @@
 /// stays as the program last set it; a user's click changes only what the
 /// widgets show. Add buttons to a group box through a CKyUIRadioGroup.
 ///
+/// Under setInteractive(true) the button follows its widget: a click, or a
+/// sibling's exclusion, stores the new state and emits toggled; a click then
+/// emits released and clicked (the toolkit's order). Switching on first shows
+/// the state the program set.
+///
 /// \image html choices.png "Radio buttons in group boxes, among the other choices"
 class COMMONUI_EXPORT CKyUIRadioButton : public CKyUIBaseView
 {
@@ -26,13 +31,17 @@ public:
     const QString& text() const;
     /// Always reaches the widget; emits toggled only when the state changes.
     void setChecked(bool checked);
-    /// The state last set by the program.
+    /// The state last set by the program, or, while the button is
+    /// interactive, shown by its widget.
     bool isChecked() const;
 
-    /// Offered for connection; never emitted by the library.
+    /// Emitted when the user lets go of an interactive button; never
+    /// otherwise.
     CKyUISignal<void()>& released();
-    /// Offered for connection; never emitted by the library.
+    /// Emitted, after released(), when the user clicks an interactive button;
+    /// never otherwise.
     CKyUISignal<void()>& clicked();
-    /// Emitted by setChecked() with the new state when it changes.
+    /// Emitted by setChecked() with the new state when it changes, and by a
+    /// change on screen while the button is interactive.
     CKyUISignal<void(bool)>& toggled();
 };

@@ -1,7 +1,9 @@
 #include "UI/Impl/CKyUIRadioGroupImpl.h"
 
 #include "UI/CKyUIRadioButton.h"
+#include "UI/Impl/CKyUIRadioButtonImpl.h"
 
+#include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QButtonGroup>
 #include <QtWidgets/QGroupBox>
@@ -30,4 +32,35 @@ void CKyUIRadioGroupImpl::AddRadioButtonImpl(CKyUIRadioButton* button)
         return;
     widget->setSizePolicy(QSizePolicy::MinimumExpanding, QSizePolicy::MinimumExpanding);
     layout->addWidget(widget, 0, Qt::Alignment());
+}
+
+void CKyUIRadioGroupImpl::LinkButtonImpl(CKyUIRadioButton* button)
+{
+    auto* widget = qobject_cast<QAbstractButton*>(button->getHandle());
+    if (!widget)
+        return;
+    LinkUserInput(QObject::connect(widget, &QAbstractButton::toggled, widget, [this, button](bool checked) {
+        if (checked)
+            OnButtonChecked(button);
+    }));
+}
+
+void CKyUIRadioGroupImpl::SetInteractiveImpl(bool interactive)
+{
+    CKyUIBaseViewImpl::SetInteractiveImpl(interactive);
+    if (!interactive)
+        return;
+    if (!m_title.isEmpty())
+        SetTitleImpl(m_title);
+    // Every widget shows its stored state before any of them is heard.
+    const QList<CKyUIRadioButton*> buttons = m_buttons;
+    for (CKyUIRadioButton* button : buttons) {
+        if (Holds(button))
+            static_cast<CKyUIRadioButtonImpl*>(button->impl())->ShowStoredState();
+    }
+    // One link a button, also when it was added twice.
+    for (int i = 0; i < buttons.size(); ++i) {
+        if (Holds(buttons.at(i)) && buttons.indexOf(buttons.at(i)) == i)
+            LinkButtonImpl(buttons.at(i));
+    }
 }
