@@ -1,5 +1,7 @@
 #include "UI/Impl/CKyUITextEditImpl.h"
 
+#include "UI/CKyUIObject.h"
+
 CKyUITextEditImpl::CKyUITextEditImpl(CKyUIObject* owner)
     : CKyUIBaseViewImpl(owner)
     , textChanged(owner)
@@ -69,17 +71,35 @@ void CKyUITextEditImpl::SetFocus()
 
 void CKyUITextEditImpl::SetInputType(int type)
 {
+    m_inputType = type;
+    m_inputTypeGiven = true;
     SetInputTypeImpl(type);
+}
+
+void CKyUITextEditImpl::SetReadOnly(bool readOnly)
+{
+    m_readOnly = readOnly;
+    m_readOnlyGiven = true;
+    if (owner()->isInteractive())
+        SetReadOnlyImpl(readOnly);
 }
 
 void CKyUITextEditImpl::SelectAll()
 {
-    SelectAllImpl();
+    if (owner()->isInteractive())
+        SelectAllImpl();
 }
 
 void CKyUITextEditImpl::Clear()
 {
-    SetText(QString());
+    if (owner()->isInteractive())
+        SetText(QString());
+}
+
+void CKyUITextEditImpl::MoveCursor(int operation, int mode)
+{
+    if (owner()->isInteractive())
+        MoveCursorImpl(operation, mode);
 }
 
 void CKyUITextEditImpl::OnEditTextChanged(const QString& text)
