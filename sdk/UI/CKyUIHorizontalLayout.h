@@ -3,7 +3,8 @@
 #include "UI/CKyUIBaseView.h"
 
 /// Arranges child views in a row. Removing a view drops only the public link:
-/// its widget stays in the row.
+/// its widget stays in the row, unless the layout is interactive (see
+/// setInteractive()); then the widget leaves the row as in a column.
 ///
 /// Add children with addView() and insertView(); the stretch is truncated
 /// toward zero (2.7 gives 2). A new layout has no margins.

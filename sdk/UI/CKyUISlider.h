@@ -6,7 +6,8 @@
 /// A horizontal integer slider, 25 pixels high. Every change of the widget's
 /// value, by the user or by the program, updates value() and emits
 /// valueChanged. Until a bound is set the widget keeps the toolkit's own range
-/// of 0 to 99.
+/// of 0 to 99; an interactive slider (see setInteractive()) takes the stored
+/// range, 0 to 100 unless set, when it becomes interactive.
 ///
 /// \image html choices.png "Sliders among the other choices"
 class COMMONUI_EXPORT CKyUISlider : public CKyUIBaseView
