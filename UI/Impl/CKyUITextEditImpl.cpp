@@ -106,12 +106,20 @@ void CKyUITextEditImpl::OnEditTextChanged(const QString& text)
 {
     // Every change the widget reports, typed or set, counts as an edit.
     m_text = text;
+    m_changedSinceFinished = true;
     EmitInOrder([this] { textChanged.Emit(m_text); }, [this] { textEdited.Emit(m_text); });
 }
 
 void CKyUITextEditImpl::OnEditingFinished()
 {
+    m_changedSinceFinished = false;
     editingFinished.Emit();
+}
+
+void CKyUITextEditImpl::OnFocusLost()
+{
+    if (m_changedSinceFinished)
+        OnEditingFinished();
 }
 
 void CKyUITextEditImpl::OnReturnPressed()

@@ -37,6 +37,7 @@ public:
     void OnEditTextChanged(const QString& text);
     // Reached only while the owner follows its user.
     void OnEditingFinished();
+    void OnFocusLost();
     void OnReturnPressed();
 
     void SetTextImpl(const QString& text);
@@ -65,6 +66,9 @@ private:
     bool m_readOnlyGiven = false;
     int m_inputType = 0;
     bool m_inputTypeGiven = false;
+    // A focus loss ends the editing only after a change, as in the toolkit,
+    // whose own record of it misses the Return that the frontend keeps.
+    bool m_changedSinceFinished = false;
     // The widget outlives this object until the event loop deletes it.
     QMetaObject::Connection m_textChangedConnection;
     QMetaObject::Connection m_returnPressedConnection;

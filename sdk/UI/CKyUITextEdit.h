@@ -91,7 +91,7 @@ public:
     CKyUISignal<void(QString)>& textEdited();
     /// Never emitted. Interactive: emitted after returnPressed() for Return or
     /// Enter when the text is acceptable input, and when the field loses the
-    /// focus.
+    /// focus after a change of its text.
     CKyUISignal<void()>& editingFinished();
     /// Emitted once for Return or Enter (the keypad's included), which go no
     /// further.

@@ -96,7 +96,7 @@ void CKyUITextEditImpl::CreateFrontendControl()
                                                [this](const QString& text) { OnEditTextChanged(text); });
     m_returnPressedConnection =
         QObject::connect(frontend, &QLineEdit::returnPressed, frontend, [this] { OnReturnPressed(); });
-    // editingFinished stays unconnected.
+    // editingFinished stays unconnected unless the owner follows its user.
 }
 
 void CKyUITextEditImpl::SetTextImpl(const QString& text)
@@ -167,8 +167,9 @@ void CKyUITextEditImpl::SetInteractiveImpl(bool interactive)
         if (frontend->hasAcceptableInput())
             OnEditingFinished();
     }));
+    // Otherwise only a focus loss leads there.
     LinkUserInput(
-        QObject::connect(frontend, &QLineEdit::editingFinished, frontend, [this] { OnEditingFinished(); }));
+        QObject::connect(frontend, &QLineEdit::editingFinished, frontend, [this] { OnFocusLost(); }));
 }
 
 void CKyUITextEditImpl::SelectAllImpl()
