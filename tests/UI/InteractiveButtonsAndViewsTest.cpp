@@ -27,7 +27,6 @@ TEST(InteractiveButtonsAndViewsTest, PushButtonReportsPressReleaseAndTheCheckedS
     auto* widget = HandleAs<QPushButton>(button);
     widget->show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(widget));
-    button.setCheckable(true);
     Recorder log;
     log.on(button.pressed(), "pressed").on(button.released(), "released").on(button.clicked(), "clicked");
     const auto clickTwice = [&] {
@@ -37,29 +36,28 @@ TEST(InteractiveButtonsAndViewsTest, PushButtonReportsPressReleaseAndTheCheckedS
     };
 
     button.setInteractive(true);
+    EXPECT_EQ(clickTwice().filter("clicked"), QStringList({"clicked:true", "clicked:true"}));
+    button.setCheckable(true);
     EXPECT_EQ(clickTwice(),
               QStringList({"pressed", "released", "clicked:true", "pressed", "released", "clicked:false"}));
-    button.setCheckable(false);
-    EXPECT_EQ(clickTwice().filter("clicked"), QStringList({"clicked:true", "clicked:true"}));
     button.setInteractive(false);
-    button.setCheckable(true);
     EXPECT_EQ(clickTwice(), QStringList({"clicked:true", "clicked:true"}));
 }
 
-TEST(InteractiveButtonsAndViewsTest, ResourceIconsLoadWhileInteractiveOrOnceSwitchedOn)
+// Given before the switch, a resource icon loads when it goes on, unless an
+// icon was set after it.
+TEST(InteractiveButtonsAndViewsTest, ResourceIconsLoadWhileInteractive)
 {
-    const QString path = ":/commonui/resources/icons/chevron_down.png";
     CKyUIPushButton now, later, replaced;
     CKyUIAction action;
     now.setInteractive(true);
     for (CKyUIPushButton* button : {&now, &later, &replaced})
-        button->setResourceIcon(path);
-    action.setResourceIcon(path);
+        button->setResourceIcon(":/commonui/resources/icons/chevron_down.png");
+    action.setResourceIcon(":/commonui/resources/icons/chevron_down.png");
     replaced.setIcon(QIcon());
     EXPECT_FALSE(HandleAs<QPushButton>(now)->icon().isNull());
     EXPECT_TRUE(HandleAs<QPushButton>(later)->icon().isNull());
     EXPECT_TRUE(HandleAs<QAction>(action)->icon().isNull());
-
     for (CKyUIObject* object : std::initializer_list<CKyUIObject*>{&later, &replaced, &action})
         object->setInteractive(true);
     EXPECT_FALSE(HandleAs<QPushButton>(later)->icon().isNull());
@@ -71,15 +69,14 @@ TEST(InteractiveButtonsAndViewsTest, ActionEnabledFlagReachesTheMenuEntryWhileIn
 {
     CKyUIAction action;
     action.setText("Pad");
-    QAction* entry = HandleAs<QAction>(action);
     QMenu menu;
-    menu.addAction(entry);
+    menu.addAction(HandleAs<QAction>(action));
     Recorder log;
     log.on(action.triggered(), "triggered");
     const auto click = [&] {
         menu.show();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(&menu));
-        QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(entry).center());
+        QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(HandleAs<QAction>(action)).center());
         return log.take();
     };
 
@@ -104,13 +101,11 @@ TEST(InteractiveButtonsAndViewsTest, TimerStaysActiveUntilStopAndSliderTakesItsR
     EXPECT_FALSE(timer.isActive());
 
     CKyUISlider slider;
-    auto* widget = HandleAs<QSlider>(slider);
     Recorder log;
     log.on(slider.valueChanged(), "value");
     slider.setInteractive(true);
-    EXPECT_EQ(widget->maximum(), 100);
     EXPECT_TRUE(log.lines.isEmpty());
-    QTest::keyClick(widget, Qt::Key_End);
+    QTest::keyClick(HandleAs<QSlider>(slider), Qt::Key_End);
     EXPECT_EQ(log.take(), QStringList({"value:100"}));
 }
 
@@ -118,28 +113,20 @@ TEST(InteractiveButtonsAndViewsTest, TimerStaysActiveUntilStopAndSliderTakesItsR
 // interactive; a kept value is applied by the switch itself.
 TEST(InteractiveButtonsAndViewsTest, BaseViewOperationsReachTheWidgetWhileInteractive)
 {
-    struct Row
-    {
-        const char* name;
-        std::function<void(CKyUIBaseView&)> act;
-        bool kept;
-        std::function<bool(QLineEdit*)> shown;
-    };
-    const Row rows[] = {
-        {"setCornerRadius", [](CKyUIBaseView& v) { v.setCornerRadius(10), v.setCornerRadius(2.5f); }, true,
+    const std::tuple<std::function<void(CKyUIBaseView&)>, bool, std::function<bool(QLineEdit*)>> rows[] = {
+        {[](CKyUIBaseView& v) { v.setCornerRadius(10), v.setCornerRadius(2.5f); }, true,
          [](QLineEdit* w) { return w->styleSheet() == "QLineEdit { border-radius:2.5px;}"; }},
-        {"setPreferableSize", [](CKyUIBaseView& v) { v.setPreferableSize(120, 40); }, true,
+        {[](CKyUIBaseView& v) { v.setPreferableSize(120, 40); }, true,
          [](QLineEdit* w) { return w->minimumSize() == QSize(120, 40) && w->size() == QSize(120, 40); }},
-        {"resize", [](CKyUIBaseView& v) { v.resize(200, 30); }, true,
+        {[](CKyUIBaseView& v) { v.resize(200, 30); }, true,
          [](QLineEdit* w) { return w->size() == QSize(200, 30); }},
-        {"setWidth, setHeight", [](CKyUIBaseView& v) { v.setWidth(180), v.setHeight(35); }, true,
+        {[](CKyUIBaseView& v) { v.setWidth(180), v.setHeight(35); }, true,
          [](QLineEdit* w) { return w->size() == QSize(180, 35); }},
         // The tab reason makes a line edit select its text.
-        {"setFocus(reason)", [](CKyUIBaseView& v) { v.setFocus(int(Qt::TabFocusReason)), v.setFocus(99); },
-         false, [](QLineEdit* w) { return w->hasFocus() && w->selectedText() == "abc"; }},
+        {[](CKyUIBaseView& v) { v.setFocus(int(Qt::TabFocusReason)), v.setFocus(99); }, false,
+         [](QLineEdit* w) { return w->hasFocus() && w->selectedText() == "abc"; }},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
+    for (const auto& row : rows) {
         CKyUITextEdit view(CKyUITextEdit::Tiny);
         QLineEdit* widget = HandleAs<QLineEdit>(view);
         view.setText("abc");
@@ -147,28 +134,25 @@ TEST(InteractiveButtonsAndViewsTest, BaseViewOperationsReachTheWidgetWhileIntera
         widget->activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(widget));
         widget->clearFocus();
-        const QSize size = widget->size();
-        row.act(view);
-        EXPECT_FALSE(row.shown(widget));
-        EXPECT_EQ(widget->size(), size);
-
+        std::get<0>(row)(view);
+        EXPECT_FALSE(std::get<2>(row)(widget)) << &row - rows;
         view.setInteractive(true);
-        EXPECT_EQ(row.shown(widget), row.kept);
-        row.act(view);
-        EXPECT_TRUE(row.shown(widget));
+        EXPECT_EQ(std::get<2>(row)(widget), std::get<1>(row)) << &row - rows;
+        std::get<0>(row)(view);
+        EXPECT_TRUE(std::get<2>(row)(widget)) << &row - rows;
     }
 }
 
 TEST(InteractiveButtonsAndViewsTest, HorizontalLayoutRemovesTheWidgetOnlyWhileInteractive)
 {
     CKyUIHorizontalLayout row;
-    QLayout* layout = HandleAs<QGroupBox>(row)->layout();
     CKyUILabel kept, removed;
     row.addView(&kept);
     row.addView(&removed);
     row.removeView(&kept);
     row.setInteractive(true);
     row.removeView(&removed);
+    QLayout* layout = HandleAs<QGroupBox>(row)->layout();
     EXPECT_GE(layout->indexOf(HandleAs<QWidget>(kept)), 0);
     EXPECT_EQ(layout->indexOf(HandleAs<QWidget>(removed)), -1);
 }
@@ -178,7 +162,6 @@ TEST(InteractiveButtonsAndViewsTest, HorizontalLayoutRemovesTheWidgetOnlyWhileIn
 TEST(InteractiveButtonsAndViewsTest, RestylingKeepsOneDeclarationWhileInteractive)
 {
     for (const bool interactive : {false, true}) {
-        SCOPED_TRACE(interactive);
         CKyUILabel label;
         CKyUIPushButton button;
         label.setInteractive(interactive);
@@ -188,7 +171,6 @@ TEST(InteractiveButtonsAndViewsTest, RestylingKeepsOneDeclarationWhileInteractiv
         for (int size : {10, 10, 20, 12})
             label.setFontSize(size);
         label.setBoldText(true);
-        button.setBoldText(true);
         button.setBoldText(false);
         EXPECT_EQ(HandleAs<QWidget>(label)->styleSheet(),
                   interactive ? "QLabel {  font-size:12px;font-weight: bold;}"
