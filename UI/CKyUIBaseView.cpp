@@ -16,8 +16,7 @@ const QPalette& EmptyPalette()
 
 // A view that merely wraps a toolkit widget has no implementation: its
 // operations do nothing and its getters answer a fallback.
-template <typename Op, typename... Args>
-void Forward(CKyUIBaseViewImpl* impl, Op op, Args&&... args)
+template <typename Op, typename... Args> void Forward(CKyUIBaseViewImpl* impl, Op op, Args&&... args)
 {
     if (impl)
         (impl->*op)(std::forward<Args>(args)...);
@@ -108,8 +107,9 @@ void CKyUIBaseView::setFocus()
     Forward(implAs<CKyUIBaseViewImpl>(), &CKyUIBaseViewImpl::SetFocusImpl);
 }
 
-void CKyUIBaseView::setFocus(int)
+void CKyUIBaseView::setFocus(int reason)
 {
+    Forward(implAs<CKyUIBaseViewImpl>(), &CKyUIBaseViewImpl::SetFocus, reason);
 }
 
 bool CKyUIBaseView::hasFocus() const
@@ -149,8 +149,7 @@ void CKyUIBaseView::setHeight(int height)
 
 void CKyUIBaseView::resize(int width, int height)
 {
-    Forward(implAs<CKyUIBaseViewImpl>(), &CKyUIBaseViewImpl::SetWidth, width);
-    Forward(implAs<CKyUIBaseViewImpl>(), &CKyUIBaseViewImpl::SetHeight, height);
+    Forward(implAs<CKyUIBaseViewImpl>(), &CKyUIBaseViewImpl::Resize, width, height);
 }
 
 void CKyUIBaseView::setPreferableSize(int width, int height)
@@ -218,7 +217,7 @@ void CKyUIBaseView::setBorderColor(int red, int green, int blue)
 
 void CKyUIBaseView::setCornerRadius(float radius)
 {
-    Forward(implAs<CKyUIBaseViewImpl>(), &CKyUIBaseViewImpl::SetCornerRadiusImpl, radius);
+    Forward(implAs<CKyUIBaseViewImpl>(), &CKyUIBaseViewImpl::SetCornerRadius, radius);
 }
 
 void CKyUIBaseView::addStyleClass(const QString& name, bool value)
@@ -231,26 +230,14 @@ void CKyUIBaseView::removeStyleClass(const QString& name, bool value)
     Forward(implAs<CKyUIBaseViewImpl>(), &CKyUIBaseViewImpl::RemoveStyleClassImpl, name, value);
 }
 
-void CKyUIBaseView::showEvent(CKyUIShowEvent*)
-{
-}
+void CKyUIBaseView::showEvent(CKyUIShowEvent*) {}
 
-void CKyUIBaseView::hideEvent(CKyUIHideEvent*)
-{
-}
+void CKyUIBaseView::hideEvent(CKyUIHideEvent*) {}
 
-void CKyUIBaseView::paintEvent(CKyUIPaintEvent*)
-{
-}
+void CKyUIBaseView::paintEvent(CKyUIPaintEvent*) {}
 
-void CKyUIBaseView::resizeEvent(CKyUIResizeEvent*)
-{
-}
+void CKyUIBaseView::resizeEvent(CKyUIResizeEvent*) {}
 
-void CKyUIBaseView::focusInEvent(CKyUIFocusEvent*)
-{
-}
+void CKyUIBaseView::focusInEvent(CKyUIFocusEvent*) {}
 
-void CKyUIBaseView::focusOutEvent(CKyUIFocusEvent*)
-{
-}
+void CKyUIBaseView::focusOutEvent(CKyUIFocusEvent*) {}

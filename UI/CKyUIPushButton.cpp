@@ -24,7 +24,10 @@ void CKyUIPushButton::setIcon(const QIcon& icon)
     implAs<CKyUIPushButtonImpl>()->SetIcon(icon);
 }
 
-void CKyUIPushButton::setResourceIcon(const QString&) {}
+void CKyUIPushButton::setResourceIcon(const QString& path)
+{
+    implAs<CKyUIPushButtonImpl>()->SetResourceIcon(path);
+}
 
 void CKyUIPushButton::setTextAlignment(TextAlignment alignment)
 {
@@ -49,4 +52,14 @@ void CKyUIPushButton::setCheckable(bool checkable)
 CKyUISignal<void(bool)>& CKyUIPushButton::clicked()
 {
     return implAs<CKyUIPushButtonImpl>()->clicked;
+}
+
+CKyUISignal<void()>& CKyUIPushButton::pressed()
+{
+    return implAs<CKyUIPushButtonImpl>()->pressed;
+}
+
+CKyUISignal<void()>& CKyUIPushButton::released()
+{
+    return implAs<CKyUIPushButtonImpl>()->released;
 }

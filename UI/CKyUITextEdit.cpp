@@ -70,13 +70,25 @@ void CKyUITextEdit::setInputType(int type)
     implAs<CKyUITextEditImpl>()->SetInputType(type);
 }
 
-void CKyUITextEdit::selectAll() {}
+void CKyUITextEdit::selectAll()
+{
+    implAs<CKyUITextEditImpl>()->SelectAll();
+}
 
-void CKyUITextEdit::clear() {}
+void CKyUITextEdit::clear()
+{
+    implAs<CKyUITextEditImpl>()->Clear();
+}
 
-void CKyUITextEdit::setReadOnly(bool) {}
+void CKyUITextEdit::setReadOnly(bool readOnly)
+{
+    implAs<CKyUITextEditImpl>()->SetReadOnly(readOnly);
+}
 
-void CKyUITextEdit::moveCursor(QTextCursor::MoveOperation, QTextCursor::MoveMode) {}
+void CKyUITextEdit::moveCursor(QTextCursor::MoveOperation operation, QTextCursor::MoveMode mode)
+{
+    implAs<CKyUITextEditImpl>()->MoveCursor(operation, mode);
+}
 
 CKyUISignal<void(QString)>& CKyUITextEdit::textChanged()
 {

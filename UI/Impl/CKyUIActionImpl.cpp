@@ -1,10 +1,11 @@
 #include "UI/Impl/CKyUIActionImpl.h"
 
+#include "UI/CKyUIObject.h"
+
 CKyUIActionImpl::CKyUIActionImpl(CKyUIObject* owner)
     : CKyUIObjectImpl(owner)
     , triggered(owner)
-{
-}
+{}
 
 QString CKyUIActionImpl::GetFrontendClassName()
 {
@@ -21,12 +22,17 @@ void CKyUIActionImpl::SetText(const QString& text)
 
 void CKyUIActionImpl::SetIcon(const QIcon& icon)
 {
+    m_pendingResourceIcon.clear();
     m_icon = icon;
     SetIconImpl(icon);
 }
 
-void CKyUIActionImpl::SetResourceIcon(const QString&)
+void CKyUIActionImpl::SetResourceIcon(const QString& name)
 {
+    if (owner()->isInteractive())
+        SetResourceIconImpl(name);
+    else
+        m_pendingResourceIcon = name;
 }
 
 void CKyUIActionImpl::SetEnabled(bool enabled)
@@ -51,11 +57,6 @@ void CKyUIActionImpl::SetVisible(bool visible)
 {
     m_visible = visible;
     SetVisibleImpl(visible);
-}
-
-void CKyUIActionImpl::SetEnabledImpl(bool)
-{
-    // The toolkit action is deliberately left enabled.
 }
 
 void CKyUIActionImpl::onTriggered(bool checked)

@@ -37,6 +37,8 @@ public:
     void SetCheckableImpl(bool checkable);
     void SetCheckedImpl(bool checked);
     void SetVisibleImpl(bool visible);
+    void SetResourceIconImpl(const QString& name);
+    void SetInteractiveImpl(bool interactive) override;
 
     void onTriggered(bool checked);
 
@@ -45,6 +47,8 @@ public:
 private:
     QString m_text;
     QIcon m_icon;
+    // Loaded once the owner follows its user, unless an icon is set first.
+    QString m_pendingResourceIcon;
     bool m_enabled = true;
     bool m_checkable = false;
     bool m_checked = false;

@@ -5,8 +5,7 @@
 
 CKyUIBaseViewImpl::CKyUIBaseViewImpl(CKyUIObject* owner)
     : CKyUIObjectImpl(owner)
-{
-}
+{}
 
 CKyUIBaseViewImpl::~CKyUIBaseViewImpl() = default;
 
@@ -22,17 +21,11 @@ void CKyUIBaseViewImpl::CreateFrontendControl()
         owner()->setHandle(KyBaseViewImpl::CreateFrontendControl(className, owner()));
 }
 
-void CKyUIBaseViewImpl::AddViewImpl(CKyUIBaseView*, float)
-{
-}
+void CKyUIBaseViewImpl::AddViewImpl(CKyUIBaseView*, float) {}
 
-void CKyUIBaseViewImpl::InsertViewImpl(CKyUIBaseView*, int, float)
-{
-}
+void CKyUIBaseViewImpl::InsertViewImpl(CKyUIBaseView*, int, float) {}
 
-void CKyUIBaseViewImpl::RemoveViewImpl(CKyUIBaseView*)
-{
-}
+void CKyUIBaseViewImpl::RemoveViewImpl(CKyUIBaseView*) {}
 
 void CKyUIBaseViewImpl::SetEnabled(bool enabled)
 {
@@ -46,18 +39,36 @@ void CKyUIBaseViewImpl::OnSizeChanged(int width, int height)
     m_height = height;
 }
 
-void CKyUIBaseViewImpl::AddStyleClassImpl(const QString&, bool)
-{
-}
+void CKyUIBaseViewImpl::AddStyleClassImpl(const QString&, bool) {}
 
-void CKyUIBaseViewImpl::RemoveStyleClassImpl(const QString&, bool)
-{
-}
+void CKyUIBaseViewImpl::RemoveStyleClassImpl(const QString&, bool) {}
 
 void CKyUIBaseViewImpl::SetVisible(bool visible)
 {
     m_visible = visible;
     SetVisibleImpl(visible);
+}
+
+void CKyUIBaseViewImpl::SetWidth(int width)
+{
+    m_width = width;
+    if (owner()->isInteractive())
+        ResizeImpl(width, -1);
+}
+
+void CKyUIBaseViewImpl::SetHeight(int height)
+{
+    m_height = height;
+    if (owner()->isInteractive())
+        ResizeImpl(-1, height);
+}
+
+void CKyUIBaseViewImpl::Resize(int width, int height)
+{
+    m_width = width;
+    m_height = height;
+    if (owner()->isInteractive())
+        ResizeImpl(width, height);
 }
 
 void CKyUIBaseViewImpl::SetPreferableSize(int width, int height)
@@ -67,6 +78,20 @@ void CKyUIBaseViewImpl::SetPreferableSize(int width, int height)
     m_preferableWidth = width;
     m_preferableHeight = height;
     SetPreferrableSizeImpl(width, height);
+}
+
+void CKyUIBaseViewImpl::SetCornerRadius(float radius)
+{
+    m_cornerRadius = radius;
+    m_cornerRadiusGiven = true;
+    SetCornerRadiusImpl(radius);
+}
+
+void CKyUIBaseViewImpl::SetFocus(int reason)
+{
+    // Qt::FocusReason runs from 0 to 8; other numbers are no reason at all.
+    if (owner()->isInteractive() && reason >= 0 && reason <= 8)
+        SetFocusReasonImpl(reason);
 }
 
 void CKyUIBaseViewImpl::SetPalette(const QPalette& palette)
@@ -89,12 +114,4 @@ void CKyUIBaseViewImpl::SetPalette(const QPalette& palette)
         const QColor color = palette.color(QPalette::Current, QPalette::AlternateBase);
         SetBorderColorImpl(color.red(), color.green(), color.blue());
     }
-}
-
-void CKyUIBaseViewImpl::SetPreferrableSizeImpl(int, int)
-{
-}
-
-void CKyUIBaseViewImpl::SetCornerRadiusImpl(float)
-{
 }

@@ -28,6 +28,11 @@ public:
     virtual void AddStyleClassImpl(const QString& name, bool value);
     virtual void RemoveStyleClassImpl(const QString& name, bool value);
 
+    // Switched on, gives the widget what the record only kept: its size, its
+    // preferable size and its corner radius. A view's override calls this
+    // first.
+    void SetInteractiveImpl(bool interactive) override;
+
     // Bookkeeping; each setter stores first, then calls its toolkit step.
     void SetVisible(bool visible);
     bool IsVisible() const { return m_visible; }
@@ -35,9 +40,15 @@ public:
     bool HasFocus() const { return m_hasFocus; }
     int Width() const { return m_width; }
     int Height() const { return m_height; }
-    void SetWidth(int width) { m_width = width; }
-    void SetHeight(int height) { m_height = height; }
+    // The record only, unless the owner follows its user: then the widget
+    // is resized as well.
+    void SetWidth(int width);
+    void SetHeight(int height);
+    void Resize(int width, int height);
     void SetPreferableSize(int width, int height);
+    void SetCornerRadius(float radius);
+    // Does nothing unless the owner follows its user.
+    void SetFocus(int reason);
     int PreferableWidth() const { return m_preferableWidth; }
     int PreferableHeight() const { return m_preferableHeight; }
     void SetPalette(const QPalette& palette);
@@ -51,6 +62,9 @@ public:
     void SetMaximumWidthImpl(int width);
     void SetMaximumHeightImpl(int height);
     void SetFocusImpl();
+    void SetFocusReasonImpl(int reason);
+    // A negative width or height keeps the widget's own.
+    void ResizeImpl(int width, int height);
     void SetFocusPolicyImpl(int policy);
     void SetTabOrderImpl(CKyUIObject* first, CKyUIObject* second);
     void SetPreferrableSizeImpl(int width, int height);
@@ -75,4 +89,6 @@ private:
     int m_height = 0;
     int m_preferableWidth = 0;
     int m_preferableHeight = 0;
+    float m_cornerRadius = 0;
+    bool m_cornerRadiusGiven = false;
 };

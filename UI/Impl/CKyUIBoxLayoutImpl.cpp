@@ -1,10 +1,11 @@
 #include "UI/Impl/CKyUIBoxLayoutImpl.h"
 
+#include "UI/CKyUIObject.h"
+
 CKyUIBoxLayoutImpl::CKyUIBoxLayoutImpl(CKyUIObject* owner, Direction direction)
     : CKyUIBaseViewImpl(owner)
     , m_direction(direction)
-{
-}
+{}
 
 QString CKyUIBoxLayoutImpl::GetFrontendClassName()
 {
@@ -20,19 +21,21 @@ void CKyUIBoxLayoutImpl::SetTitle(const QString& title)
     SetTitleImpl(title);
 }
 
-void CKyUIBoxLayoutImpl::SetTitleImpl(const QString&)
-{
-}
+void CKyUIBoxLayoutImpl::SetTitleImpl(const QString&) {}
 
 CKyUIHorizontalLayoutImpl::CKyUIHorizontalLayoutImpl(CKyUIObject* owner)
     : CKyUIBoxLayoutImpl(owner, Direction::Horizontal)
+{}
+
+void CKyUIHorizontalLayoutImpl::RemoveViewImpl(CKyUIBaseView* view)
 {
+    if (owner()->isInteractive())
+        RemoveWidgetImpl(view);
 }
 
 CKyUIVerticalLayoutImpl::CKyUIVerticalLayoutImpl(CKyUIObject* owner)
     : CKyUIBoxLayoutImpl(owner, Direction::Vertical)
-{
-}
+{}
 
 void CKyUIVerticalLayoutImpl::RemoveViewImpl(CKyUIBaseView* view)
 {

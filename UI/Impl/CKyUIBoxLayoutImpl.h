@@ -42,7 +42,9 @@ class CKyUIHorizontalLayoutImpl : public CKyUIBoxLayoutImpl
 {
 public:
     explicit CKyUIHorizontalLayoutImpl(CKyUIObject* owner);
-    // Removal keeps the base behaviour: the widget stays in the row.
+
+    // The widget stays in the row unless the owner follows its user.
+    void RemoveViewImpl(CKyUIBaseView* view) override;
 };
 
 class CKyUIVerticalLayoutImpl : public CKyUIBoxLayoutImpl

@@ -5,6 +5,8 @@
 CKyUIPushButtonImpl::CKyUIPushButtonImpl(CKyUIPushButton* owner)
     : CKyUIBaseViewImpl(owner)
     , clicked(owner)
+    , pressed(owner)
+    , released(owner)
     , m_button(owner)
 {}
 
@@ -29,13 +31,23 @@ void CKyUIPushButtonImpl::SetText(const QString& text)
 
 void CKyUIPushButtonImpl::SetIcon(const QIcon& icon)
 {
+    m_pendingResourceIcon.clear();
     m_icon = icon;
     SetIconImpl(icon);
 }
 
+void CKyUIPushButtonImpl::SetResourceIcon(const QString& path)
+{
+    if (m_button->isInteractive())
+        SetResourceIconImpl(path);
+    else
+        m_pendingResourceIcon = path;
+}
+
 void CKyUIPushButtonImpl::OnPressed()
 {
-    // A click that unchecks a checkable button still reports true.
+    // A click that unchecks a checkable button still reports true, unless the
+    // button follows its user.
     if (!m_button->signalsBlocked())
-        clicked.Emit(true);
+        clicked.Emit(m_button->isInteractive() ? ClickedStateImpl() : true);
 }

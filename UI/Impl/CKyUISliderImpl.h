@@ -6,7 +6,8 @@
 #include <QtCore/QMetaObject>
 
 // The slider's stored value and bounds. The bounds are only ever passed on,
-// never applied at creation.
+// never applied at creation, unless the owner follows its user: then the
+// widget takes the stored range when it is switched on.
 class CKyUISliderImpl : public CKyUIBaseViewImpl
 {
 public:
@@ -27,6 +28,7 @@ public:
     void SetValueImpl(int value);
     void SetMinimumImpl(int minimum);
     void SetMaximumImpl(int maximum);
+    void SetInteractiveImpl(bool interactive) override;
 
     void OnValueChanged(int value);
 

@@ -1,5 +1,7 @@
 #include "UI/Impl/CKyUITextEditImpl.h"
 
+#include "UI/CKyUIObject.h"
+
 CKyUITextEditImpl::CKyUITextEditImpl(CKyUIObject* owner)
     : CKyUIBaseViewImpl(owner)
     , textChanged(owner)
@@ -69,29 +71,55 @@ void CKyUITextEditImpl::SetFocus()
 
 void CKyUITextEditImpl::SetInputType(int type)
 {
+    m_inputType = type;
+    m_inputTypeGiven = true;
     SetInputTypeImpl(type);
+}
+
+void CKyUITextEditImpl::SetReadOnly(bool readOnly)
+{
+    m_readOnly = readOnly;
+    m_readOnlyGiven = true;
+    if (owner()->isInteractive())
+        SetReadOnlyImpl(readOnly);
 }
 
 void CKyUITextEditImpl::SelectAll()
 {
-    SelectAllImpl();
+    if (owner()->isInteractive())
+        SelectAllImpl();
 }
 
 void CKyUITextEditImpl::Clear()
 {
-    SetText(QString());
+    if (owner()->isInteractive())
+        SetText(QString());
+}
+
+void CKyUITextEditImpl::MoveCursor(int operation, int mode)
+{
+    if (owner()->isInteractive())
+        MoveCursorImpl(operation, mode);
 }
 
 void CKyUITextEditImpl::OnEditTextChanged(const QString& text)
 {
     // Every change the widget reports, typed or set, counts as an edit.
     m_text = text;
+    m_changedSinceFinished = true;
     EmitInOrder([this] { textChanged.Emit(m_text); }, [this] { textEdited.Emit(m_text); });
 }
 
 void CKyUITextEditImpl::OnEditingFinished()
 {
+    m_changedSinceFinished = false;
     editingFinished.Emit();
+}
+
+void CKyUITextEditImpl::OnFocusLost()
+{
+    if (m_changedSinceFinished)
+        OnEditingFinished();
 }
 
 void CKyUITextEditImpl::OnReturnPressed()

@@ -27,13 +27,17 @@ public:
     bool IsClearButtonEnabled() const { return m_clearButtonEnabled; }
     void SetFocus();
     void SetInputType(int type);
-    // Working, but the public class does not offer them.
+    // Take effect only while the owner follows its user; otherwise the read-only
+    // flag and the input type are kept for when it does.
+    void SetReadOnly(bool readOnly);
     void SelectAll();
     void Clear();
+    void MoveCursor(int operation, int mode);
 
     void OnEditTextChanged(const QString& text);
-    // Nothing leads here: editingFinished is never emitted.
+    // Reached only while the owner follows its user.
     void OnEditingFinished();
+    void OnFocusLost();
     void OnReturnPressed();
 
     void SetTextImpl(const QString& text);
@@ -43,6 +47,9 @@ public:
     void SetFocusImpl();
     void SetInputTypeImpl(int type);
     void SelectAllImpl();
+    void SetReadOnlyImpl(bool readOnly);
+    void MoveCursorImpl(int operation, int mode);
+    void SetInteractiveImpl(bool interactive) override;
 
     CKyUISignal<void(QString)> textChanged;
     CKyUISignal<void()> editingFinished;
@@ -54,6 +61,14 @@ private:
     QString m_inputMask;
     QString m_placeholderText;
     bool m_clearButtonEnabled = false;
+    // Kept for the switch; applied then only if they were ever given.
+    bool m_readOnly = false;
+    bool m_readOnlyGiven = false;
+    int m_inputType = 0;
+    bool m_inputTypeGiven = false;
+    // A focus loss ends the editing only after a change, as in the toolkit,
+    // whose own record of it misses the Return that the frontend keeps.
+    bool m_changedSinceFinished = false;
     // The widget outlives this object until the event loop deletes it.
     QMetaObject::Connection m_textChangedConnection;
     QMetaObject::Connection m_returnPressedConnection;

@@ -1,5 +1,7 @@
 #include "UI/Impl/CKyUITextViewImpl.h"
 
+#include "UI/CKyUIObject.h"
+
 #include "KyHostKernel.h"
 
 CKyUITextViewImpl::CKyUITextViewImpl(CKyUIObject* owner)
@@ -25,7 +27,14 @@ void CKyUITextViewImpl::SetText(const QString& text)
 void CKyUITextViewImpl::SetHtmlText(const QString& text)
 {
     m_content = text;
+    if (owner()->isInteractive()) {
+        SetHtmlImpl(text);
+        return;
+    }
+    const Lifetime lifetime = GetLifetime();
     SetTextImpl(text);
+    if (lifetime.Alive())
+        m_pendingHtml = text;
 }
 
 void CKyUITextViewImpl::AddText(const QString& text)
@@ -63,6 +72,9 @@ void CKyUITextViewImpl::SetPlaceholderText(const QString& text)
 void CKyUITextViewImpl::OnEditTextChanged(const QString& text)
 {
     m_content = text;
+    if (m_quiet)
+        return;
+    m_pendingHtml.clear();
     textChanged.Emit();
 }
 

@@ -33,6 +33,8 @@ public:
     void OnEditingFinished();
 
     void SetTextImpl(const QString& text);
+    void SetHtmlImpl(const QString& html);
+    void SetInteractiveImpl(bool interactive) override;
     void AddTextImpl(const QString& text);
     void SetReadOnly(bool readOnly);
     void SetPlaceholderTextImpl(const QString& text);
@@ -48,6 +50,11 @@ public:
 private:
     QString m_content;
     QString m_placeholderText;
+    // The HTML that setHtmlText() showed as plain text, rendered when the owner
+    // comes to follow its user; forgotten at any other change of the content.
+    QString m_pendingHtml;
+    // Set while the switch renders that HTML: the content follows quietly.
+    bool m_quiet = false;
     // Off until a client asks: the widget keeps its own height.
     bool m_adjustHeightToContent = false;
 };

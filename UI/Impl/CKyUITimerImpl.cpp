@@ -1,5 +1,7 @@
 #include "UI/Impl/CKyUITimerImpl.h"
 
+#include "UI/CKyUIObject.h"
+
 #include <utility>
 
 CKyUITimerImpl::CKyUITimerImpl(CKyUIObject* owner)
@@ -33,7 +35,9 @@ void CKyUITimerImpl::singleShot(int msec, std::function<void()> callback)
 
 void CKyUITimerImpl::OnTimeout()
 {
-    // Cleared although the timer goes on firing.
-    m_active = false;
+    // Cleared although the timer goes on firing, unless the owner follows
+    // its user: then the flag tells the truth until stop().
+    if (!owner()->isInteractive())
+        m_active = false;
     timeout.Emit();
 }

@@ -30,9 +30,14 @@ public:
     QString text() const;
     /// Stores the icon and shows it in menus.
     void setIcon(const QIcon& icon);
-    /// Accepted and ignored.
+    /// Accepted and ignored. Interactive (see setInteractive()): loads the
+    /// icon from the resource path (":/...") or file and sets it as setIcon()
+    /// does; a path given before is loaded when the action becomes
+    /// interactive, unless setIcon() came after it.
     void setResourceIcon(const QString& name);
-    /// Kept only: the entry on screen stays as it is.
+    /// Kept only: the entry on screen stays as it is. Interactive: enables or
+    /// disables the entry; the kept flag is applied when the action becomes
+    /// interactive.
     void setEnabled(bool enabled);
     /// Stores the flag and makes the action checkable.
     void setCheckable(bool checkable);

@@ -64,7 +64,9 @@ public:
 
     /// Gives the widget the keyboard focus.
     void setFocus();
-    /// Does nothing.
+    /// Does nothing. Interactive (see setInteractive()): gives the widget the
+    /// keyboard focus for the reason, a `Qt::FocusReason` value (0 to 8;
+    /// other numbers do nothing).
     void setFocus(int reason);
     /// The stored focus flag, which the view never changes: always false.
     bool hasFocus() const;
@@ -78,15 +80,20 @@ public:
     int width() const;
     /// The recorded height; 0 for a new view.
     int height() const;
-    /// Records the width only; the widget is not resized.
+    /// Records the width only; the widget is not resized. Interactive: the
+    /// widget is resized to it, keeping its height.
     void setWidth(int width);
-    /// Records the height only; the widget is not resized.
+    /// Records the height only; the widget is not resized. Interactive: the
+    /// widget is resized to it, keeping its width.
     void setHeight(int height);
     /// Records width and height only: the widget keeps its geometry. Use the
-    /// minimum and maximum operations to constrain the widget.
+    /// minimum and maximum operations to constrain the widget. Interactive:
+    /// the widget is resized too (a layout may resize it again).
     void resize(int width, int height);
     /// Records the size as both the current and the preferable size; the
-    /// widget is not resized.
+    /// widget is not resized. Interactive: the widget is resized to it and
+    /// layouts give it no less (a side of 0 or less is left to the widget).
+    /// An interactive view takes the recorded sizes when it is switched on.
     void setPreferableSize(int width, int height);
     /// Sets the widget's minimum width.
     void setMinimumWidth(int width);
@@ -121,7 +128,9 @@ public:
     /// Writes the border colour (components 0 to 255) into the widget's style
     /// sheet. A `border:` shorthand written earlier is removed with it.
     void setBorderColor(int red, int green, int blue);
-    /// Accepted and ignored.
+    /// Accepted and ignored. Interactive: writes the radius, in pixels, into
+    /// the widget's style sheet, replacing an earlier one; a radius given
+    /// before is written when the view becomes interactive.
     void setCornerRadius(float radius);
     /// Accepted and ignored.
     void addStyleClass(const QString& name, bool value);

@@ -4,7 +4,8 @@
 
 /// Arranges child views in a row, where a removed view's widget stays (see
 /// \ref behaviours_containers "behaviours"). Removing a view drops only the
-/// public link.
+/// public link, unless the layout is interactive (see setInteractive()); then
+/// the widget leaves the row as in a column.
 ///
 /// Add children with addView() and insertView(); the stretch is truncated
 /// toward zero (2.7 gives 2). A new layout has no margins.

@@ -30,12 +30,14 @@ public:
     /// down, a smaller one is not enlarged.
     void setIcon(const QIcon& icon);
 
-    /// Writes bold or normal weight into the label's style sheet.
+    /// Writes bold or normal weight into the label's style sheet. Interactive
+    /// (see setInteractive()): any earlier weight declaration goes first.
     void setBoldText(bool bold);
     /// In pixels. A size whose digits contain a 0 (10, 20, 105...) stays in
     /// the style sheet when a later size is set; the later one wins, but the
     /// sheet grows by one declaration for each such call, so set such sizes
-    /// once rather than often.
+    /// once rather than often. Interactive (see setInteractive()): any earlier
+    /// size declaration goes first, so the sheet keeps one.
     void setFontSize(int size);
 
     /// Stores the flag and lets long text wrap onto further lines.

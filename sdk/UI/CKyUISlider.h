@@ -6,8 +6,9 @@
 /// A horizontal integer slider, 25 pixels high, whose widget keeps the range 0
 /// to 99 until a bound is set (see \ref behaviours_controls "behaviours").
 /// Every change of the widget's value, by the user or by the program, updates
-/// value() and emits valueChanged. Until a bound is set the widget keeps the
-/// toolkit's own range of 0 to 99.
+/// value() and emits valueChanged. An interactive slider (see
+/// setInteractive()) takes the stored range, 0 to 100 unless set, when it
+/// becomes interactive.
 ///
 /// \image html choices.png "Sliders among the other choices"
 class COMMONUI_EXPORT CKyUISlider : public CKyUIBaseView

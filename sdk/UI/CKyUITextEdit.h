@@ -59,16 +59,29 @@ public:
     using CKyUIBaseView::setFocus;
     /// Gives the field the keyboard focus.
     void setFocus();
-    /// Has no effect.
+    /// What setInputType() lets the user type.
+    enum InputType : int {
+        PlainInput = 0,    ///< Any text, shown as typed.
+        PasswordInput = 1, ///< Any text, shown masked.
+        IntegerInput = 2,  ///< A whole number.
+        DecimalInput = 3,  ///< A number with the current locale's decimal separator.
+    };
+    /// Has no effect. Interactive (see setInteractive()): chooses what the
+    /// user may type, one of InputType; any other value gives PlainInput. The
+    /// type is kept and applied when the field becomes interactive.
     void setInputType(int type);
 
-    /// Accepted and ignored.
+    /// Accepted and ignored. Interactive: selects the whole text.
     void selectAll();
     /// Accepted and ignored: the text stays. Use setText() with an empty text.
+    /// Interactive: empties the text as setText() with an empty text does.
     void clear();
-    /// Accepted and ignored.
+    /// Accepted and ignored. Interactive: the user can no longer change the
+    /// text. The flag is kept and applied when the field becomes interactive.
     void setReadOnly(bool readOnly);
-    /// Accepted and ignored.
+    /// Accepted and ignored. Interactive: moves the cursor as in a one-line
+    /// document (up and the starts go home, down and the ends go to the end),
+    /// extending the selection with QTextCursor::KeepAnchor.
     void moveCursor(QTextCursor::MoveOperation operation,
                     QTextCursor::MoveMode mode = QTextCursor::MoveAnchor);
 
@@ -78,7 +91,9 @@ public:
     /// Emitted with the whole text after textChanged() at every change of the
     /// widget's text, typed or set.
     CKyUISignal<void(QString)>& textEdited();
-    /// Never emitted.
+    /// Never emitted. Interactive: emitted after returnPressed() for Return or
+    /// Enter when the text is acceptable input, and when the field loses the
+    /// focus after a change of its text.
     CKyUISignal<void()>& editingFinished();
     /// Emitted once for Return or Enter (the keypad's included), which go no
     /// further.

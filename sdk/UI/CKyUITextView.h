@@ -24,6 +24,9 @@ public:
     void setText(const QString& text);
     /// Replaces the text too, also as plain text unless it is empty: markup
     /// shows literally. Only addHtmlText() is interpreted as HTML.
+    /// Interactive (see setInteractive()): the text is rendered as HTML. A
+    /// text given before the view became interactive is rendered then, if
+    /// nothing changed the content in between.
     void setHtmlText(const QString& text);
     /// Appends a paragraph, encoded so that its markup characters show as such.
     void addText(const QString& text);

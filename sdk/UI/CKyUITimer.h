@@ -8,7 +8,8 @@
 /// A repeating timer whose isActive() turns false at the first timeout, while
 /// it keeps firing and emitting timeout() (see
 /// \ref behaviours_controls "behaviours"). For one shot, call stop() in the
-/// slot or use singleShot().
+/// slot or use singleShot(). An interactive timer (see setInteractive()) stays
+/// active until stop().
 ///
 /// The toolkit timer is created with the object and deleted with it.
 class COMMONUI_EXPORT CKyUITimer : public CKyUIObject
@@ -25,7 +26,8 @@ public:
     /// Stops the timer; isActive() is false.
     void stop();
     /// The stored flag: true from start() until the first timeout or stop(),
-    /// not the toolkit timer's state.
+    /// not the toolkit timer's state. Interactive: true from start() until
+    /// stop().
     bool isActive() const;
 
     /// Emitted at every firing, also after isActive() turned false.

@@ -36,6 +36,30 @@ void CKyUIActionImpl::SetIconImpl(const QIcon& icon)
         action->setIcon(icon);
 }
 
+void CKyUIActionImpl::SetEnabledImpl(bool enabled)
+{
+    // Off, the toolkit action is deliberately left enabled.
+    if (!owner()->isInteractive())
+        return;
+    if (auto* action = qobject_cast<QAction*>(owner()->getHandle()))
+        action->setEnabled(enabled);
+}
+
+void CKyUIActionImpl::SetResourceIconImpl(const QString& name)
+{
+    SetIcon(QIcon(name));
+}
+
+void CKyUIActionImpl::SetInteractiveImpl(bool interactive)
+{
+    CKyUIObjectImpl::SetInteractiveImpl(interactive);
+    if (!interactive)
+        return;
+    SetEnabledImpl(m_enabled);
+    if (!m_pendingResourceIcon.isEmpty())
+        SetResourceIconImpl(m_pendingResourceIcon);
+}
+
 void CKyUIActionImpl::SetCheckableImpl(bool checkable)
 {
     if (auto* action = qobject_cast<QAction*>(owner()->getHandle()))

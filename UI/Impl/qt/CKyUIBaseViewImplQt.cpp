@@ -31,6 +31,18 @@ constexpr const char* kBorderBottomWidth = "border-bottom-width[ \t]*:[ \t]*[1-9
 // Matches a value of exactly one character only, so an earlier colour stays.
 constexpr const char* kBorderColor = "border-color[ \t]*:[ \t]*[1-9a-zA-Z];";
 constexpr const char* kBackgroundColor = "background-color[ \t]*:[ \t#a-zA-Z1-9]*;";
+// Written only for a view that follows its user, so it may match any value.
+constexpr const char* kBorderRadius = "border-radius[ \t]*:[^;}]*;";
+
+// A preferable size the layouts honour: they give the widget no less. A
+// missing (non-positive) side keeps the widget's own minimum.
+void SetLeastSize(QWidget* widget, int width, int height)
+{
+    if (width > 0)
+        widget->setMinimumWidth(width);
+    if (height > 0)
+        widget->setMinimumHeight(height);
+}
 
 void SetTextBrush(QWidget* widget, const QBrush& brush)
 {
@@ -138,6 +150,56 @@ void CKyUIBaseViewImpl::SetFocusImpl()
 {
     if (QWidget* widget = GetWidget())
         widget->setFocus(Qt::OtherFocusReason);
+}
+
+void CKyUIBaseViewImpl::SetFocusReasonImpl(int reason)
+{
+    if (QWidget* widget = GetWidget())
+        widget->setFocus(static_cast<Qt::FocusReason>(reason));
+}
+
+void CKyUIBaseViewImpl::ResizeImpl(int width, int height)
+{
+    QWidget* widget = GetWidget();
+    if (!widget)
+        return;
+    widget->resize(width < 0 ? widget->width() : width, height < 0 ? widget->height() : height);
+}
+
+void CKyUIBaseViewImpl::SetPreferrableSizeImpl(int width, int height)
+{
+    // Off, the preferable size is a record only. On, the widget starts at it
+    // and layouts give it no less.
+    QWidget* widget = GetWidget();
+    if (!widget || !owner()->isInteractive())
+        return;
+    SetLeastSize(widget, width, height);
+    ResizeImpl(width > 0 ? width : -1, height > 0 ? height : -1);
+}
+
+void CKyUIBaseViewImpl::SetCornerRadiusImpl(float radius)
+{
+    // Off, the radius is accepted and ignored.
+    if (!owner()->isInteractive())
+        return;
+    static const QList<QRegExp> removals = StyleSheetRewriter::Patterns({kBorderRadius});
+    const QString declaration =
+        QStringLiteral("border-radius:%1px;").arg(QString::number(static_cast<double>(radius), 'g', 6));
+    StyleSheetRewriter::Apply(GetWidget(), removals, declaration, Insertion::BeforeLastBraceAfterStart);
+}
+
+void CKyUIBaseViewImpl::SetInteractiveImpl(bool interactive)
+{
+    CKyUIObjectImpl::SetInteractiveImpl(interactive);
+    if (!interactive)
+        return;
+    QWidget* widget = GetWidget();
+    if (widget && (m_preferableWidth > 0 || m_preferableHeight > 0))
+        SetLeastSize(widget, m_preferableWidth, m_preferableHeight);
+    if (m_width > 0 || m_height > 0)
+        ResizeImpl(m_width > 0 ? m_width : -1, m_height > 0 ? m_height : -1);
+    if (m_cornerRadiusGiven)
+        SetCornerRadiusImpl(m_cornerRadius);
 }
 
 void CKyUIBaseViewImpl::SetFocusPolicyImpl(int policy)

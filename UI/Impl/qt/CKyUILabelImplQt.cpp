@@ -13,6 +13,10 @@ using StyleSheetRewriter::Insertion;
 // removed again, and the newer declaration after it wins.
 constexpr const char* kFontWeight = "font-weight[ \t]*:[ \ta-zA-Z1-9]*;";
 constexpr const char* kFontSize = "font-size[ \t]*:[ \ta-zA-Z1-9]*;";
+// A label that follows its user replaces the earlier declaration whatever its
+// value, so that the sheet keeps one of each.
+constexpr const char* kAnyFontWeight = "font-weight[ \t]*:[^;}]*;";
+constexpr const char* kAnyFontSize = "font-size[ \t]*:[^;}]*;";
 
 constexpr int kIconSize = 25;
 } // namespace
@@ -44,16 +48,20 @@ void CKyUILabelImpl::SetIconImpl(const QIcon& icon)
 void CKyUILabelImpl::SetBoldTextImpl(bool bold)
 {
     static const QList<QRegExp> removals = StyleSheetRewriter::Patterns({kFontWeight});
+    static const QList<QRegExp> allRemovals = StyleSheetRewriter::Patterns({kAnyFontWeight});
     const QString declaration =
         bold ? QStringLiteral("font-weight: bold;") : QStringLiteral("font-weight: normal;");
-    StyleSheetRewriter::Apply(GetLabel(), removals, declaration, Insertion::BeforeLastBrace);
+    StyleSheetRewriter::Apply(GetLabel(), owner()->isInteractive() ? allRemovals : removals, declaration,
+                              Insertion::BeforeLastBrace);
 }
 
 void CKyUILabelImpl::SetFontSizeImpl(int size)
 {
     static const QList<QRegExp> removals = StyleSheetRewriter::Patterns({kFontSize});
+    static const QList<QRegExp> allRemovals = StyleSheetRewriter::Patterns({kAnyFontSize});
     const QString declaration = QStringLiteral("font-size:%1px;").arg(size);
-    StyleSheetRewriter::Apply(GetLabel(), removals, declaration, Insertion::BeforeLastBrace);
+    StyleSheetRewriter::Apply(GetLabel(), owner()->isInteractive() ? allRemovals : removals, declaration,
+                              Insertion::BeforeLastBrace);
 }
 
 void CKyUILabelImpl::SetWordWrapImpl(bool on)

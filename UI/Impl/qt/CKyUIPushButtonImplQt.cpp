@@ -11,6 +11,8 @@ using StyleSheetRewriter::Insertion;
 // Letters only after the colon: a numeric weight such as 600 stays.
 constexpr const char* kTextAlign = "text-align[ \t]*:[ \ta-zA-Z]*;";
 constexpr const char* kFontWeight = "font-weight[ \t]*:[ \ta-zA-Z]*;";
+// A button that follows its user replaces any earlier weight, numeric too.
+constexpr const char* kAnyFontWeight = "font-weight[ \t]*:[^;}]*;";
 
 QString AlignmentDeclaration(int alignment)
 {
@@ -62,9 +64,11 @@ void CKyUIPushButtonImpl::SetTextAlignmentImpl(int alignment)
 void CKyUIPushButtonImpl::SetBoldTextImpl(bool bold)
 {
     static const QList<QRegExp> removals = StyleSheetRewriter::Patterns({kFontWeight});
+    static const QList<QRegExp> allRemovals = StyleSheetRewriter::Patterns({kAnyFontWeight});
     const QString declaration =
         bold ? QStringLiteral("font-weight: bold;") : QStringLiteral("font-weight: normal;");
-    StyleSheetRewriter::Apply(GetFrontend(), removals, declaration, Insertion::BeforeLastBrace);
+    StyleSheetRewriter::Apply(GetFrontend(), owner()->isInteractive() ? allRemovals : removals, declaration,
+                              Insertion::BeforeLastBrace);
 }
 
 void CKyUIPushButtonImpl::SetToolTipImpl(const QString& toolTip)
@@ -77,6 +81,29 @@ void CKyUIPushButtonImpl::SetCheckableImpl(bool checkable)
 {
     if (CKyUIPushButtonFrontend* button = GetFrontend())
         button->setCheckable(checkable);
+}
+
+void CKyUIPushButtonImpl::SetResourceIconImpl(const QString& path)
+{
+    SetIcon(QIcon(path));
+}
+
+bool CKyUIPushButtonImpl::ClickedStateImpl() const
+{
+    CKyUIPushButtonFrontend* button = GetFrontend();
+    return !button || !button->isCheckable() || button->isChecked();
+}
+
+void CKyUIPushButtonImpl::SetInteractiveImpl(bool interactive)
+{
+    CKyUIBaseViewImpl::SetInteractiveImpl(interactive);
+    CKyUIPushButtonFrontend* button = GetFrontend();
+    if (!interactive || !button)
+        return;
+    if (!m_pendingResourceIcon.isEmpty())
+        SetResourceIconImpl(m_pendingResourceIcon);
+    LinkUserInput(QObject::connect(button, &QAbstractButton::pressed, button, [this] { pressed.Emit(); }));
+    LinkUserInput(QObject::connect(button, &QAbstractButton::released, button, [this] { released.Emit(); }));
 }
 
 void CKyUIPushButtonImpl::DisconnectFrontendImpl()

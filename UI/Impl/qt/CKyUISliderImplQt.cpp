@@ -16,8 +16,8 @@ void CKyUISliderImpl::CreateFrontendControl()
     slider->setMinimumHeight(25);
     slider->setMaximumHeight(25);
     owner()->setHandle(slider);
-    m_valueConnection =
-        QObject::connect(slider, &QAbstractSlider::valueChanged, [this](int value) { OnValueChanged(value); });
+    m_valueConnection = QObject::connect(slider, &QAbstractSlider::valueChanged,
+                                         [this](int value) { OnValueChanged(value); });
 }
 
 void CKyUISliderImpl::SetValueImpl(int value)
@@ -36,4 +36,22 @@ void CKyUISliderImpl::SetMaximumImpl(int maximum)
 {
     if (auto* slider = qobject_cast<QSlider*>(owner()->getHandle()))
         slider->setMaximum(maximum);
+}
+
+void CKyUISliderImpl::SetInteractiveImpl(bool interactive)
+{
+    CKyUIBaseViewImpl::SetInteractiveImpl(interactive);
+    auto* slider = qobject_cast<QSlider*>(owner()->getHandle());
+    if (!interactive || !slider)
+        return;
+    // Both bounds in one step: the toolkit keeps the minimum and lifts the
+    // maximum to it if need be, as it did for the bounds given one by one.
+    // The switch reports nothing; a value the range moves is kept quietly.
+    const int before = slider->value();
+    {
+        const QSignalBlocker quiet(slider);
+        slider->setRange(m_minimum, m_maximum);
+    }
+    if (slider->value() != before)
+        m_value = slider->value();
 }

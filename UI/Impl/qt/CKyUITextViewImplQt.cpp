@@ -45,6 +45,25 @@ void CKyUITextViewImpl::SetTextImpl(const QString& text)
         frontend->setText(text);
 }
 
+void CKyUITextViewImpl::SetHtmlImpl(const QString& html)
+{
+    if (CKyUITextViewFrontend* frontend = FrontendOf(owner()))
+        frontend->setHtml(html);
+}
+
+void CKyUITextViewImpl::SetInteractiveImpl(bool interactive)
+{
+    CKyUIBaseViewImpl::SetInteractiveImpl(interactive);
+    if (!interactive || m_pendingHtml.isEmpty())
+        return;
+    // The switch reports nothing: the content follows the rendering quietly.
+    const QString html = m_pendingHtml;
+    m_pendingHtml.clear();
+    m_quiet = true;
+    SetHtmlImpl(html);
+    m_quiet = false;
+}
+
 void CKyUITextViewImpl::AddTextImpl(const QString& text)
 {
     if (CKyUITextViewFrontend* frontend = FrontendOf(owner()))
