@@ -22,7 +22,7 @@
 #define COMMONUI_VERSION_CHECK(major, minor, patch) (((major) << 16) | ((minor) << 8) | (patch))
 
 /// The version of these headers, as COMMONUI_VERSION_CHECK() makes it.
-#define COMMONUI_VERSION                                                                           \
+#define COMMONUI_VERSION                                                                                     \
     COMMONUI_VERSION_CHECK(COMMONUI_VERSION_MAJOR, COMMONUI_VERSION_MINOR, COMMONUI_VERSION_PATCH)
 
 /// The version as text, "major.minor.patch"; the CMake package and pkg-config

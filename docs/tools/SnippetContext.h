@@ -50,12 +50,12 @@ protected:
 
 // Local names for the members, ahead of each body block, which then runs in a
 // scope of its own.
-#define COMMONUI_SNIPPET_LOCALS                                                                        \
-    auto& manager = Owner::manager;                                                                    \
-    auto& request = Owner::request;                                                                    \
-    auto& reply = Owner::reply;                                                                        \
-    auto& socket = Owner::socket;                                                                      \
-    auto& dialog = Owner::dialog;                                                                      \
-    auto& file = Owner::file;                                                                          \
-    auto& certificate = Owner::certificate;                                                            \
+#define COMMONUI_SNIPPET_LOCALS                                                                              \
+    auto& manager = Owner::manager;                                                                          \
+    auto& request = Owner::request;                                                                          \
+    auto& reply = Owner::reply;                                                                              \
+    auto& socket = Owner::socket;                                                                            \
+    auto& dialog = Owner::dialog;                                                                            \
+    auto& file = Owner::file;                                                                                \
+    auto& certificate = Owner::certificate;                                                                  \
     auto& key = Owner::key;
