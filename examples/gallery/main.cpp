@@ -29,6 +29,7 @@ int main(int argc, char** argv)
 
     if (!headless) {
         GalleryDialog dialog;
+        dialog.setInteractive(true); // a person trying it sees every control answer
         const int result = dialog.exec();
         std::printf("gallery: the dialog ended with result %d (%s)\n", result,
                     result == 1 ? "accepted" : "rejected");

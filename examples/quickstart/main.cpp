@@ -54,6 +54,7 @@ int main(int argc, char** argv)
 
     //! [run]
     HolePatternDialog dialog;
+    dialog.setInteractive(true); // every control of the dialog follows its user
     //! [run]
     if (unattended)
         CKyUITimer::singleShot(0, [&dialog]() { dialog.accept(); }); // runs inside exec()

@@ -1,0 +1,75 @@
+// Runs the pad feature panel. With a display it runs until the user closes it
+// and prints the values chosen. Without one it plays the user itself with
+// real input events (choose "Two dimensions", type both lengths, tick
+// "Reversed", press OK) and fails unless the values read back are those.
+
+#include "PadDialog.h"
+
+#include "UI/CKyUICheckBox.h"
+#include "UI/CKyUIComboBox.h"
+#include "UI/CKyUIDialogButtonBox.h"
+#include "UI/CKyUITextEdit.h"
+#include "UI/CKyUITimer.h"
+
+#include <QtTest/QTest>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QDialogButtonBox>
+#include <QtWidgets/QPushButton>
+
+#include <cstdio>
+
+namespace
+{
+QWidget* WidgetOf(const CKyUIBaseView* view)
+{
+    return qobject_cast<QWidget*>(view->getHandle());
+}
+
+void Retype(const CKyUIBaseView* field, const char* text)
+{
+    QWidget* widget = WidgetOf(field);
+    QTest::mouseDClick(widget, Qt::LeftButton);
+    QTest::keyClick(widget, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(widget, QString::fromLatin1(text));
+}
+
+// What a user does, from inside the dialog's run.
+void PlayTheUser(PadDialog& dialog)
+{
+    QWidget* mode = WidgetOf(dialog.mode);
+    mode->setFocus();
+    QTest::keyClick(mode, Qt::Key_Down); // Dimension -> Two dimensions
+    Retype(dialog.length, "25");
+    Retype(dialog.secondLength, "7.5");
+    QWidget* reversed = WidgetOf(dialog.reversed);
+    // A click on the box itself: the widget may be wider than box and text.
+    QTest::mouseClick(reversed, Qt::LeftButton, Qt::NoModifier, QPoint(8, reversed->height() / 2));
+    auto* window = qobject_cast<QWidget*>(dialog.getHandle());
+    for (QPushButton* button : window->findChildren<QPushButton*>()) {
+        if (button->text() == QLatin1String("OK"))
+            QTest::mouseClick(button, Qt::LeftButton);
+    }
+}
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    const bool unattended = QGuiApplication::platformName() == QLatin1String("offscreen");
+
+    PadDialog dialog;
+    if (unattended)
+        CKyUITimer::singleShot(0, [&dialog]() { PlayTheUser(dialog); });
+    const int result = dialog.exec();
+
+    const PadDialog::Values values = dialog.values();
+    std::printf("featurepanel: result %d, %s, length %g, second length %g, reversed %s, symmetric %s\n",
+                result, qPrintable(values.mode), values.length, values.secondLength,
+                values.reversed ? "yes" : "no", values.symmetric ? "yes" : "no");
+    if (!unattended)
+        return 0;
+    const bool asPlayed = result == 1 && values.mode == QLatin1String("Two dimensions") &&
+                          values.length == 25 && values.secondLength == 7.5 && values.reversed &&
+                          !values.symmetric && !dialog.symmetric->isVisible();
+    return asPlayed ? 0 : 1;
+}
