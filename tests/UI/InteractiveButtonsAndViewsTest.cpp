@@ -20,6 +20,7 @@
 #include <QtWidgets/QSlider>
 
 #include <functional>
+#include <memory>
 
 TEST(InteractiveButtonsAndViewsTest, PushButtonReportsPressReleaseAndTheCheckedStateWhileInteractive)
 {
@@ -50,6 +51,8 @@ TEST(InteractiveButtonsAndViewsTest, ResourceIconsLoadWhileInteractive)
 {
     CKyUIPushButton now, later, replaced;
     CKyUIAction action;
+    // The toolkit action outlives its public object: it belongs to the test.
+    const std::unique_ptr<QAction> entry(HandleAs<QAction>(action));
     now.setInteractive(true);
     for (CKyUIPushButton* button : {&now, &later, &replaced})
         button->setResourceIcon(":/commonui/resources/icons/chevron_down.png");
@@ -68,15 +71,16 @@ TEST(InteractiveButtonsAndViewsTest, ResourceIconsLoadWhileInteractive)
 TEST(InteractiveButtonsAndViewsTest, ActionEnabledFlagReachesTheMenuEntryWhileInteractive)
 {
     CKyUIAction action;
+    const std::unique_ptr<QAction> entry(HandleAs<QAction>(action));
     action.setText("Pad");
     QMenu menu;
-    menu.addAction(HandleAs<QAction>(action));
+    menu.addAction(entry.get());
     Recorder log;
     log.on(action.triggered(), "triggered");
     const auto click = [&] {
         menu.show();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(&menu));
-        QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(HandleAs<QAction>(action)).center());
+        QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(entry.get()).center());
         return log.take();
     };
 
