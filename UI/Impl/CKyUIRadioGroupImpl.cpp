@@ -27,7 +27,7 @@ void CKyUIRadioGroupImpl::AddRadioButton(CKyUIRadioButton* button)
         return;
     button->setParent(owner());
     // A button listed before keeps the link it has.
-    const bool linked = m_buttons.contains(button);
+    const bool linked = owner()->isInteractive() && m_buttons.contains(button);
     m_buttons.append(button);
     AddRadioButtonImpl(button);
     if (!owner()->isInteractive())

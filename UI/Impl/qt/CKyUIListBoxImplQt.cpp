@@ -70,10 +70,17 @@ void CKyUIListBoxImpl::SetInteractiveImpl(bool interactive)
         return;
     // The model may hold several selected items; so may the widget then.
     list->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    list->clear();
-    list->addItems(m_items);
-    for (int row = 0; row < m_itemDefs.size(); ++row)
-        list->item(row)->setSelected(m_itemDefs.at(row).selected);
+    bool same = list->count() == m_items.size();
+    for (int row = 0; same && row < m_items.size(); ++row)
+        same = list->item(row)->text() == m_items.at(row);
+    if (!same) {
+        list->clear();
+        list->addItems(m_items);
+    }
+    for (int row = 0; row < m_itemDefs.size(); ++row) {
+        if (list->item(row)->isSelected() != m_itemDefs.at(row).selected)
+            list->item(row)->setSelected(m_itemDefs.at(row).selected);
+    }
     if (IsRow(m_currentRow))
         list->setCurrentRow(m_currentRow, QItemSelectionModel::NoUpdate);
     else
