@@ -50,3 +50,23 @@ CKyNANetworkReply* CKyNANetworkAccessManager::sendCustomRequest(const CKyNANetwo
 {
     return implAs<CKyNANetworkAccessManagerImpl>()->sendCustomRequest(request, verb, body);
 }
+
+void CKyNANetworkAccessManager::setProxy(const CKyNAProxy& proxy)
+{
+    implAs<CKyNANetworkAccessManagerImpl>()->setProxy(proxy);
+}
+
+CKyNAProxy CKyNANetworkAccessManager::proxy() const
+{
+    return implAs<CKyNANetworkAccessManagerImpl>()->proxy();
+}
+
+CKyUISignal<void(CKyNAAuthentication&)>& CKyNANetworkAccessManager::proxyAuthenticationRequired()
+{
+    return implAs<CKyNANetworkAccessManagerImpl>()->proxyAuthenticationRequired;
+}
+
+CKyUISignal<void(CKyNAAuthentication&)>& CKyNANetworkAccessManager::authenticationRequired()
+{
+    return implAs<CKyNANetworkAccessManagerImpl>()->authenticationRequired;
+}

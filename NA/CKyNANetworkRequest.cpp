@@ -161,3 +161,39 @@ bool CKyNANetworkRequest::streaming() const
 {
     return m_impl->streaming();
 }
+
+void CKyNANetworkRequest::setCredentials(const QString& user, const QString& password)
+{
+    m_impl->setCredentials(user, password);
+}
+
+QString CKyNANetworkRequest::user() const
+{
+    return m_impl->user();
+}
+
+QString CKyNANetworkRequest::password() const
+{
+    return m_impl->password();
+}
+
+void CKyNANetworkRequest::setBearerToken(const QByteArray& token)
+{
+    // Through the header check like any other header.
+    setRawHeader(QByteArrayLiteral("Authorization"), QByteArrayLiteral("Bearer ") + token);
+}
+
+void CKyNANetworkRequest::setRetryPolicy(int tries, int initialDelayMs)
+{
+    m_impl->setRetryPolicy(tries, initialDelayMs);
+}
+
+int CKyNANetworkRequest::retryTries() const
+{
+    return m_impl->retryTries();
+}
+
+int CKyNANetworkRequest::retryInitialDelay() const
+{
+    return m_impl->retryInitialDelay();
+}

@@ -4,9 +4,11 @@
 
 #include "CommonUIVersion.h"
 
+#include "NA/CKyNAAuthentication.h"
 #include "NA/CKyNANetworkAccessManager.h"
 #include "NA/CKyNANetworkReply.h"
 #include "NA/CKyNANetworkRequest.h"
+#include "NA/CKyNAProxy.h"
 #include "NA/CKyNAWebSocket.h"
 #include "NA/CKyNAWebSocketProtocol.h"
 #include "UI/CKyUIAction.h"

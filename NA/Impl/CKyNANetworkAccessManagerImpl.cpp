@@ -4,6 +4,8 @@
 
 CKyNANetworkAccessManagerImpl::CKyNANetworkAccessManagerImpl(CKyNANetworkAccessManager* owner)
     : CKyUIObjectImpl(owner)
+    , proxyAuthenticationRequired(owner)
+    , authenticationRequired(owner)
 {
     CreateNetworkAccessManagerImpl();
 }
@@ -55,4 +57,34 @@ CKyNANetworkReply* CKyNANetworkAccessManagerImpl::sendCustomRequest(const CKyNAN
                                                                     const QByteArray& body)
 {
     return SendCustomRequestImpl(request, verb, body);
+}
+
+void CKyNANetworkAccessManagerImpl::setProxy(const CKyNAProxy& proxy)
+{
+    if (!proxy.isValid())
+        return;
+    m_proxy = proxy;
+    SetProxyImpl();
+}
+
+bool CKyNANetworkAccessManagerImpl::AnswerChallenge(Challenger challenger, const QUrl& url,
+                                                    const QString& realm, int refusals,
+                                                    const QString& aheadUser, const QString& aheadPassword,
+                                                    QString& user, QString& password)
+{
+    if (refusals >= 2)
+        return false;
+    if (refusals == 0 && !aheadUser.isEmpty()) {
+        user = aheadUser;
+        password = aheadPassword;
+        return true;
+    }
+    CKyNAAuthentication question(url, realm, refusals > 0);
+    const Lifetime lifetime = GetLifetime();
+    (challenger == Challenger::Proxy ? proxyAuthenticationRequired : authenticationRequired).Emit(question);
+    if (!lifetime.Alive() || !question.isAnswered())
+        return false;
+    user = question.user();
+    password = question.password();
+    return true;
 }

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "NA/CKyNAAuthentication.h"
+#include "NA/CKyNAProxy.h"
+#include "UI/CKyUISignal.h"
 #include "UI/Impl/CKyUIObjectImpl.h"
 
 class QByteArray;
@@ -28,8 +31,22 @@ public:
     CKyNANetworkReply* sendCustomRequest(const CKyNANetworkRequest& request, const QByteArray& verb,
                                          const QByteArray& body);
 
+    void setProxy(const CKyNAProxy& proxy);
+    CKyNAProxy proxy() const { return m_proxy; }
+
+    enum class Challenger { Server, Proxy };
+    // Answers a request for credentials. `refusals` counts the answers the
+    // challenger already refused for this transfer; after two it gets none,
+    // so that wrong credentials end the transfer instead of looping. The
+    // credentials given ahead go first, then the client's slot is asked.
+    // False: send nothing, which ends the transfer with its error.
+    bool AnswerChallenge(Challenger challenger, const QUrl& url, const QString& realm, int refusals,
+                         const QString& aheadUser, const QString& aheadPassword, QString& user,
+                         QString& password);
+
     // Toolkit steps.
     void CreateNetworkAccessManagerImpl();
+    void SetProxyImpl();
     void DestroyNetworkAccessManagerImpl();
     CKyNANetworkReply* GetImpl(const CKyNANetworkRequest& request);
     CKyNANetworkReply* PostImpl(const CKyNANetworkRequest& request, QIODevice* data);
@@ -40,4 +57,15 @@ public:
     CKyNANetworkReply* HeadImpl(const CKyNANetworkRequest& request);
     CKyNANetworkReply* SendCustomRequestImpl(const CKyNANetworkRequest& request, const QByteArray& verb,
                                              const QByteArray& body);
+
+    CKyUISignal<void(CKyNAAuthentication&)> proxyAuthenticationRequired;
+    CKyUISignal<void(CKyNAAuthentication&)> authenticationRequired;
+
+    // What a slot gave after the proxy had refused once: the toolkit tells
+    // no transfers apart for a proxy, so a refusal of exactly these ends it.
+    QString m_proxyRetryUser;
+    QString m_proxyRetryPassword;
+
+private:
+    CKyNAProxy m_proxy;
 };

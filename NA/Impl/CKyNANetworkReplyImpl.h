@@ -12,6 +12,7 @@
 #include <memory>
 
 class QIODevice;
+class QNetworkRequest;
 
 // Turns the toolkit reply's signals into the library's and keeps the
 // received headers from the moment the transfer finished.
@@ -24,10 +25,12 @@ public:
     // toolkit stops reading from the server.
     static constexpr long long StreamingBufferBytes = 1 << 20;
 
-    // What following redirects needs beyond the toolkit reply at hand, and
-    // how a refused redirect ended the transfer.
+    // What re-issuing a request under this reply needs beyond the toolkit
+    // reply at hand, for a followed redirect or a retry, and how a refused
+    // redirect (or an abort between tries) ended the transfer.
     struct Redirects
     {
+        bool follow = true;
         int left = 0;
         bool allowInsecure = false;
         // The upload, sent again after a 307 or 308.
@@ -40,6 +43,12 @@ public:
         bool encryptedReported = false;
         CKyNANetworkReply::NetworkError error = CKyNANetworkReply::NoError;
         QString errorString;
+        // Retries: further tries allowed, the next back-off, and the wait
+        // decided for the try at hand (-1: this answer is the last).
+        int triesLeft = 0;
+        int backOffMs = 0;
+        int retryInMs = -1;
+        QPointer<QObject> wait;
     };
 
     CKyNANetworkReplyImpl(CKyNANetworkReply* owner, QObject* reply);
@@ -123,6 +132,13 @@ private:
     // Starts the request the redirect at hand leads to, under this reply;
     // false when the transfer ends with this answer instead.
     bool FollowImpl(QObject* toolkitReply);
+    // Whether the failed try at hand goes again; notes the wait if so.
+    bool RetryImpl(QObject* toolkitReply, CKyNANetworkReply::NetworkError code);
+    // Waits as noted, then issues the try again under this reply.
+    void WaitAndRetryImpl(QObject* toolkitReply);
+    // Issues `request` with `operation` (the toolkit's) in place of the
+    // toolkit reply at hand, under this reply.
+    void ReissueImpl(QObject* toolkitReply, const QNetworkRequest& request, int operation);
 
     const CKyNANetworkRequest* m_request = nullptr;
     bool m_finished = false;

@@ -120,6 +120,19 @@ void CKyNANetworkRequestImpl::setStreaming(bool streaming)
     m_streaming = streaming;
 }
 
+void CKyNANetworkRequestImpl::setCredentials(const QString& user, const QString& password)
+{
+    m_user = user;
+    m_password = password;
+    SetCredentialsImpl();
+}
+
+void CKyNANetworkRequestImpl::setRetryPolicy(int tries, int initialDelayMs)
+{
+    m_retryTries = tries;
+    m_retryInitialDelay = initialDelayMs;
+}
+
 QByteArray CKyNANetworkRequestImpl::GetKnowHeaderName(CKyNANetworkRequest::KnownHeaders header)
 {
     switch (int(header)) {

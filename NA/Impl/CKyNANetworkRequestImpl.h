@@ -53,6 +53,20 @@ public:
     void setStreaming(bool streaming);
     bool streaming() const { return m_streaming; }
 
+    void setCredentials(const QString& user, const QString& password);
+    QString user() const { return m_user; }
+    QString password() const { return m_password; }
+
+    void setRetryPolicy(int tries, int initialDelayMs);
+    int retryTries() const { return m_retryTries; }
+    int retryInitialDelay() const { return m_retryInitialDelay; }
+
+    // Where the toolkit request carries the credentials (a QStringList of
+    // user and password), so that they travel with every request the
+    // transfer makes: one of the application's attribute codes, at the far
+    // end of that range.
+    static constexpr int CredentialsAttribute = CKyNANetworkRequest::UserMax - 1;
+
     // The name under which a known header travels; null for codes without one.
     static QByteArray GetKnowHeaderName(CKyNANetworkRequest::KnownHeaders header);
 
@@ -64,6 +78,7 @@ public:
     void SetRawHeaderImpl(const QByteArray& name, const QByteArray& value);
     void SetSslConfigurationImpl();
     void SetRedirectPolicyImpl();
+    void SetCredentialsImpl();
 
     CKyNANetworkRequest* owner() const { return m_owner; }
 
@@ -82,4 +97,8 @@ private:
     int m_maximumRedirects = 10;
     bool m_allowInsecureRedirects = false;
     bool m_streaming = false;
+    QString m_user;
+    QString m_password;
+    int m_retryTries = 1;
+    int m_retryInitialDelay = 500;
 };

@@ -9,6 +9,14 @@ void handle(int, const QByteArray&) {}
 void report(int, const QString&) {}
 void log(const char*) {}
 void log(const QString&) {}
+QString askUser(const QString&)
+{
+    return QString();
+}
+QString askPassword()
+{
+    return QString();
+}
 
 void Owner::consume(const QByteArray&) {}
 

@@ -23,6 +23,9 @@ void handle(int status, const QByteArray& body);
 void report(int closeCode, const QString& reason);
 void log(const char* text);
 void log(const QString& text);
+// Credentials the plug-in asks its user for.
+QString askUser(const QString& realm);
+QString askPassword();
 
 // A dialog of the plug-in's own, with nothing in it.
 class PluginDialog : public CKyUIDialog

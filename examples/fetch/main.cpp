@@ -1,6 +1,7 @@
 // fetch URL [--timeout MS] [--method VERB] [--head] [--data TEXT]
 //           [--header 'Name: value']... [--body] [--output FILE]
 //           [--cacert FILE] [--insecure] [--location]
+//           [--proxy URL] [--user NAME:PASSWORD] [--bearer TOKEN] [--retry N]
 // fetch ws[s]://... [--timeout MS] [--header 'Name: value']... [--messages N]
 //           [--for MS] [--ping MS] [--insecure] [--cacert FILE]
 //
@@ -12,9 +13,14 @@
 //   0  the transfer succeeded (a web socket: it ended with a normal closure)
 //   1  the transfer failed or timed out (the error code and text); a web
 //      socket failed to open, saw an error, missed a pong or ended with any
-//      other close code
+//      other close code. Among them: the proxy refused its credentials or
+//      wanted some (error 105), the server refused --user (error 204, after
+//      one more try at most), the last of the --retry tries failed
 //   2  usage: an unknown option, a missing or malformed argument, a --cacert
-//      file without certificates (the help follows the message)
+//      file without certificates, a --proxy that is no http:// or socks5://
+//      URL (nor "system" or "none"), a --user without ':', a --bearer token
+//      the header check refuses, a --retry that is no whole number from 0
+//      (the help follows the message)
 //   3  --output could not be opened or written; the transfer is abandoned
 
 #include "NA/CKyNANetworkAccessManager.h"
@@ -101,8 +107,25 @@ int main(int argc, char** argv)
                                             QStringLiteral("Accept any server certificate."));
     const QCommandLineOption locationOption(QStringLiteral("location"),
                                             QStringLiteral("Follow redirects (never from https to http)."));
+    const QCommandLineOption proxyOption(
+        QStringLiteral("proxy"),
+        QStringLiteral("Go through http://[user:password@]host:port or socks5://..., "
+                       "or 'system' (http_proxy, ...) or 'none'."),
+        QStringLiteral("URL"));
+    const QCommandLineOption userOption(
+        QStringLiteral("user"), QStringLiteral("Sign in with these when the server asks (basic, digest)."),
+        QStringLiteral("NAME:PASSWORD"));
+    const QCommandLineOption bearerOption(QStringLiteral("bearer"),
+                                          QStringLiteral("Send 'Authorization: Bearer TOKEN'."),
+                                          QStringLiteral("TOKEN"));
+    const QCommandLineOption retryOption(
+        QStringLiteral("retry"),
+        QStringLiteral("Retry a GET, HEAD, PUT, DELETE or OPTIONS up to N times after a failed connection "
+                       "or a 502, 503 or 504, within the time-out."),
+        QStringLiteral("N"));
     parser.addOptions({timeoutOption, methodOption, headOption, dataOption, headerOption, bodyOption,
-                       outputOption, cacertOption, insecureOption, locationOption});
+                       outputOption, cacertOption, insecureOption, locationOption, proxyOption, userOption,
+                       bearerOption, retryOption});
     addWebSocketOptions(parser);
     // Not process(): it ends the program with 1 on a usage error.
     if (!parser.parse(QCoreApplication::arguments()))
@@ -148,6 +171,30 @@ int main(int argc, char** argv)
                               QStringLiteral("no PEM certificate in %1").arg(parser.value(cacertOption)));
         request.setCaCertificates(authorities);
     }
+    if (parser.isSet(userOption)) {
+        const QString user = parser.value(userOption);
+        if (!user.contains(QLatin1Char(':')))
+            return usageError(parser, QStringLiteral("--user reads NAME:PASSWORD"));
+        request.setCredentials(user.section(QLatin1Char(':'), 0, 0), user.section(QLatin1Char(':'), 1));
+    }
+    if (parser.isSet(bearerOption)) {
+        request.setBearerToken(parser.value(bearerOption).toUtf8());
+        if (!request.rawHeader("Authorization").isValid())
+            return usageError(parser, QStringLiteral("refused --bearer: it may not hold CR, LF or NUL"));
+    }
+    if (parser.isSet(retryOption)) {
+        bool ok = false;
+        const int retries = parser.value(retryOption).toInt(&ok);
+        if (!ok || retries < 0)
+            return usageError(parser, QStringLiteral("--retry takes a whole number from 0"));
+        request.setRetryPolicy(retries + 1);
+    }
+    const CKyNAProxy proxy = CKyNAProxy::fromUrl(parser.value(proxyOption));
+    if (parser.isSet(proxyOption) && !proxy.isValid())
+        return usageError(parser, QStringLiteral("not a proxy: %1").arg(parser.value(proxyOption)));
+    // A web socket goes as the application's setting says; see the manual.
+    if (isWebSocketUrl(url) && (parser.isSet(proxyOption) || parser.isSet(retryOption)))
+        return usageError(parser, QStringLiteral("--proxy and --retry apply to HTTP only"));
     if (isWebSocketUrl(url))
         return runWebSocket(parser, request, request.requestTimeout() > 0 ? request.requestTimeout() : 30000);
     request.setFollowRedirects(parser.isSet(locationOption));
@@ -165,6 +212,8 @@ int main(int argc, char** argv)
 
     // The reply must go before its manager: declared after it, deleted first.
     CKyNANetworkAccessManager manager;
+    if (parser.isSet(proxyOption))
+        manager.setProxy(proxy);
     std::unique_ptr<CKyNANetworkReply> reply;
     if (method == QLatin1String("GET"))
         reply.reset(manager.get(request));

@@ -2,7 +2,10 @@
 
 #include "commonui_export.h"
 
+#include "NA/CKyNAAuthentication.h"
+#include "NA/CKyNAProxy.h"
 #include "UI/CKyUIObject.h"
+#include "UI/CKyUISignal.h"
 
 #include <QtCore/QByteArray>
 
@@ -67,4 +70,25 @@ public:
     /// a body. The caller owns the returned reply.
     CKyNANetworkReply* sendCustomRequest(const CKyNANetworkRequest& request, const QByteArray& verb,
                                          const QByteArray& body = QByteArray());
+
+    /// How the transfers started from now on reach the network; the default
+    /// CKyNAProxy() leaves the application's setting in force. An invalid
+    /// proxy (CKyNAProxy::isValid()) is ignored. See \ref services_proxy.
+    void setProxy(const CKyNAProxy& proxy);
+    /// The proxy given with setProxy(); CKyNAProxy() unless set.
+    CKyNAProxy proxy() const;
+    /// Emitted when the proxy asks for credentials that were not given ahead
+    /// (CKyNAProxy::setCredentials()), or refused those sent; a slot answers
+    /// with CKyNAAuthentication::setCredentials(). Without an answer, or when
+    /// the answer to a refusal is refused too, the transfer ends with
+    /// CKyNANetworkReply::ProxyAuthenticationRequiredError (105).
+    CKyUISignal<void(CKyNAAuthentication&)>& proxyAuthenticationRequired();
+    /// Emitted when a server answers 401 (basic or digest) and the request
+    /// carries no credentials of its own (CKyNANetworkRequest::setCredentials()),
+    /// or it refused those sent; a slot answers with
+    /// CKyNAAuthentication::setCredentials(). Without an answer, or when the
+    /// answer to a refusal is refused too, the transfer ends with
+    /// CKyNANetworkReply::AuthenticationRequiredError (204): a 401 never
+    /// loops. See \ref services_signin.
+    CKyUISignal<void(CKyNAAuthentication&)>& authenticationRequired();
 };

@@ -192,6 +192,39 @@ public:
     /// Whether the reply streams its body; false unless set.
     bool streaming() const;
 
+    /// Credentials for a server that answers 401 (basic or digest): sent
+    /// when it asks, never before, and at most once; when they are refused the
+    /// manager's CKyNANetworkAccessManager::authenticationRequired() is asked
+    /// once more, and then the transfer ends with
+    /// CKyNANetworkReply::AuthenticationRequiredError. An empty @p user (the
+    /// default) gives none. Like Authorization headers, they are dropped when
+    /// a followed redirect leaves the origin. See \ref services_signin.
+    void setCredentials(const QString& user, const QString& password);
+    /// The user name given with setCredentials(); empty unless set.
+    QString user() const;
+    /// The password given with setCredentials(); empty unless set.
+    QString password() const;
+    /// Sets the header "Authorization: Bearer <token>" through
+    /// setRawHeader(), with its check: a token holding CR, LF or NUL is
+    /// refused, and the request stays as it was.
+    void setBearerToken(const QByteArray& token);
+
+    /// Opt-in retries of a GET, HEAD, PUT, DELETE or OPTIONS: after a failed
+    /// connection (refused, closed early, lost) or a 502, 503 or 504, the
+    /// request goes again, up to @p tries tries in all. Each wait doubles,
+    /// starting at @p initialDelayMs, with random jitter (half to all of it);
+    /// a server's Retry-After (seconds or an HTTP date) sets the wait
+    /// instead. The time-outs bound all tries and waits together: a wait that
+    /// would outlast the request's time-out is not taken, and the last
+    /// answer is the reply's. The reply reports one finished(), only for the
+    /// last try. POST and other verbs are never retried. @p tries of 1 or
+    /// less (the default) never retries. See \ref services_retries.
+    void setRetryPolicy(int tries, int initialDelayMs = 500);
+    /// Tries in all; 1 unless set.
+    int retryTries() const;
+    /// The first wait in milliseconds; 500 unless set.
+    int retryInitialDelay() const;
+
     /// The toolkit request that every setter writes; for the library's own
     /// use.
     QNetworkRequest* getHandle() const;

@@ -268,6 +268,52 @@ TEST_F(RealServices, EachWayATransferEndsGivesItsErrorAndOneFinished)
     }
 }
 
+// Answers, in order, that the slot gives ("" gives none); the slot's calls as "ask" or "retry".
+TEST_F(RealServices, SignInAsksTheSlotAtMostTwiceAndNeverLoops)
+{
+    const QString good = "plugin:secret", bad = "plugin:wrong";
+    const struct
+    {
+        const char* path;
+        QString ahead; // user:password, or a bearer token after "Bearer "
+        QStringList answers;
+        QString outcome;
+    } cases[] = {
+        {"/private/hello.txt", "", {""}, "ask error:204 finished =401"},
+        {"/private/hello.txt", good, {}, "finished =200 signed in"},
+        {"/private/hello.txt", "", {good}, "ask finished =200 signed in"},
+        {"/private/hello.txt", bad, {bad, good}, "retry error:204 finished =401"},
+        {"/private/hello.txt", "", {bad, bad, bad}, "ask retry error:204 finished =401"},
+        {"/private/hello.txt", bad, {good}, "retry finished =200 signed in"},
+        {"/bearer", "Bearer t0ken", {}, "finished =200 bearer"},
+        {"/bearer", "Bearer other", {}, "error:204 finished =401"},
+    };
+    for (const auto& c : cases) {
+        CKyNANetworkAccessManager manager;
+        QStringList asked, answers = c.answers;
+        manager.authenticationRequired().connect([&](CKyNAAuthentication& question) {
+            EXPECT_EQ(question.realm(), "CommonUI");
+            asked << (question.isRetry() ? "retry" : "ask");
+            const QStringList answer = answers.isEmpty() ? QStringList() : answers.takeFirst().split(':');
+            if (answer.size() == 2)
+                question.setCredentials(answer[0], answer[1]);
+        });
+        CKyNANetworkRequest request(url(QLatin1String(c.path)));
+        if (c.ahead.startsWith("Bearer "))
+            request.setBearerToken(c.ahead.mid(7).toLatin1());
+        else if (!c.ahead.isEmpty())
+            request.setCredentials(c.ahead.section(':', 0, 0), c.ahead.section(':', 1));
+        std::unique_ptr<CKyNANetworkReply> reply(manager.get(request));
+        Recorder recorder;
+        ASSERT_TRUE(waitFinished(RecordReply(recorder, reply.get())));
+        const QString status = reply->attribute(CKyNANetworkRequest::HttpStatusCodeAttribute).toString();
+        const QString seen = (asked + Outcome(recorder)
+                              << "=" + status + " " + (status == "200" ? reply->readAll() : QByteArray()))
+                                 .join(' ');
+        EXPECT_EQ(seen.trimmed().toStdString(), c.outcome.toStdString()) << c.path;
+    }
+}
+
 // Against redirect_peer.py: two ports on 127.0.0.1 that redirect as told and echo the request that
 // reaches /headers. A missing interpreter fails here.
 TEST(RedirectCredentials, NeverLeaveTheOriginTheClientAddressed)

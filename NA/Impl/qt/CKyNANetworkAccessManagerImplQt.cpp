@@ -4,9 +4,13 @@
 #include "NA/CKyNANetworkReply.h"
 #include "NA/CKyNANetworkRequest.h"
 #include "NA/Impl/CKyNANetworkReplyImpl.h"
+#include "NA/Impl/CKyNANetworkRequestImpl.h"
 #include "NA/Impl/qt/CKyNANetworkReplyTimeout.h"
 
+#include <QtNetwork/QAuthenticator>
 #include <QtNetwork/QNetworkAccessManager>
+#include <QtNetwork/QNetworkProxy>
+#include <QtNetwork/QNetworkProxyFactory>
 #include <QtNetwork/QNetworkReply>
 #include <QtNetwork/QNetworkRequest>
 
@@ -14,6 +18,55 @@
 
 namespace
 {
+
+// The system's proxy for each URL, with the credentials given ahead for
+// proxies the settings name without any.
+class SystemProxyFactory : public QNetworkProxyFactory
+{
+public:
+    SystemProxyFactory(const QString& user, const QString& password)
+        : m_user(user)
+        , m_password(password)
+    {}
+
+    QList<QNetworkProxy> queryProxy(const QNetworkProxyQuery& query) override
+    {
+        QList<QNetworkProxy> proxies = QNetworkProxyFactory::systemProxyForQuery(query);
+        for (QNetworkProxy& proxy : proxies) {
+            if (proxy.type() != QNetworkProxy::NoProxy && proxy.user().isEmpty() && !m_user.isEmpty()) {
+                proxy.setUser(m_user);
+                proxy.setPassword(m_password);
+            }
+        }
+        return proxies;
+    }
+
+private:
+    const QString m_user;
+    const QString m_password;
+};
+
+// Counts, per toolkit reply, the credentials a server refused; kept on the
+// reply only once a server asked.
+const char* const RefusalsProperty = "commonui.refusals";
+
+// The methods a retry may repeat: they mean the same when sent twice.
+bool IsIdempotent(const QNetworkReply& reply)
+{
+    switch (reply.operation()) {
+    case QNetworkAccessManager::GetOperation:
+    case QNetworkAccessManager::HeadOperation:
+    case QNetworkAccessManager::PutOperation:
+    case QNetworkAccessManager::DeleteOperation:
+        return true;
+    case QNetworkAccessManager::CustomOperation: {
+        const QByteArray verb = reply.request().attribute(QNetworkRequest::CustomVerbAttribute).toByteArray();
+        return verb == "GET" || verb == "HEAD" || verb == "PUT" || verb == "DELETE" || verb == "OPTIONS";
+    }
+    default:
+        return false;
+    }
+}
 
 // The one start path of every transfer; the six steps differ only in the
 // toolkit call they hand in, and in the upload a followed 307 or 308 sends
@@ -47,8 +100,12 @@ CKyNANetworkReply* StartTransfer(const CKyUIObject* owner, const CKyNANetworkReq
         impl->StartStreaming();
     // The toolkit only reports redirects: it would carry the credentials
     // along to any other server.
-    if (request.followRedirects()) {
+    const bool retries = request.retryTries() > 1 && IsIdempotent(*reply);
+    if (request.followRedirects() || retries) {
         std::unique_ptr<CKyNANetworkReplyImpl::Redirects> redirects(new CKyNANetworkReplyImpl::Redirects);
+        redirects->follow = request.followRedirects();
+        redirects->triesLeft = retries ? request.retryTries() - 1 : 0;
+        redirects->backOffMs = qMax(1, request.retryInitialDelay());
         redirects->left = request.maximumRedirects();
         redirects->allowInsecure = request.allowInsecureRedirects();
         if (body)
@@ -73,6 +130,77 @@ void CKyNANetworkAccessManagerImpl::CreateNetworkAccessManagerImpl()
     manager->setRedirectPolicy(QNetworkRequest::ManualRedirectPolicy);
 #endif
     owner()->setHandle(manager);
+    // Connected once per manager; a transfer pays only when a server or a
+    // proxy asks.
+    QObject::connect(
+        manager, &QNetworkAccessManager::authenticationRequired, manager,
+        [this](QNetworkReply* reply, QAuthenticator* authenticator) {
+            const int refusals = reply->property(RefusalsProperty).toInt();
+            reply->setProperty(RefusalsProperty, refusals + 1);
+            const QStringList ahead =
+                reply->request()
+                    .attribute(QNetworkRequest::Attribute(CKyNANetworkRequestImpl::CredentialsAttribute))
+                    .toStringList();
+            QString user, password;
+            if (AnswerChallenge(Challenger::Server, reply->url(), authenticator->realm(), refusals,
+                                ahead.value(0), ahead.value(1), user, password)) {
+                authenticator->setUser(user);
+                authenticator->setPassword(password);
+            }
+        },
+        Qt::DirectConnection);
+    QObject::connect(
+        manager, &QNetworkAccessManager::proxyAuthenticationRequired, manager,
+        [this](const QNetworkProxy& proxy, QAuthenticator* authenticator) {
+            // The toolkit hands back the credentials the proxy refused, if any.
+            const bool refused = !authenticator->user().isEmpty();
+            const bool refusedAgain = refused && authenticator->user() == m_proxyRetryUser &&
+                                      authenticator->password() == m_proxyRetryPassword;
+            m_proxyRetryUser.clear();
+            m_proxyRetryPassword.clear();
+            const QUrl url(
+                QStringLiteral("%1://%2:%3")
+                    .arg(proxy.type() == QNetworkProxy::Socks5Proxy ? "socks5" : "http", proxy.hostName())
+                    .arg(proxy.port()));
+            QString user, password;
+            if (!AnswerChallenge(Challenger::Proxy, url, authenticator->realm(),
+                                 refusedAgain ? 2 : int(refused), proxy.user(), proxy.password(), user,
+                                 password))
+                return;
+            if (refused) {
+                m_proxyRetryUser = user;
+                m_proxyRetryPassword = password;
+            }
+            authenticator->setUser(user);
+            authenticator->setPassword(password);
+        },
+        Qt::DirectConnection);
+}
+
+void CKyNANetworkAccessManagerImpl::SetProxyImpl()
+{
+    auto* manager = qobject_cast<QNetworkAccessManager*>(owner()->getHandle());
+    if (!manager)
+        return;
+    const CKyNAProxy& proxy = m_proxy;
+    switch (proxy.type()) {
+    case CKyNAProxy::System:
+        // The manager takes the factory over.
+        manager->setProxyFactory(new SystemProxyFactory(proxy.user(), proxy.password()));
+        return;
+    case CKyNAProxy::NoProxy:
+        manager->setProxy(QNetworkProxy(QNetworkProxy::NoProxy));
+        return;
+    case CKyNAProxy::Http:
+    case CKyNAProxy::Socks5:
+        manager->setProxy(QNetworkProxy(proxy.type() == CKyNAProxy::Http ? QNetworkProxy::HttpProxy
+                                                                         : QNetworkProxy::Socks5Proxy,
+                                        proxy.host(), quint16(proxy.port()), proxy.user(), proxy.password()));
+        return;
+    default:
+        manager->setProxy(QNetworkProxy(QNetworkProxy::DefaultProxy));
+        return;
+    }
 }
 
 void CKyNANetworkAccessManagerImpl::DestroyNetworkAccessManagerImpl()

@@ -1,10 +1,17 @@
 #include "NA/Impl/CKyNANetworkReplyImpl.h"
 
+#include "NA/Impl/CKyNANetworkRequestImpl.h"
 #include "NA/Impl/qt/CKyNANetworkReplyTimeout.h"
 
+#include <QtCore/QDateTime>
+#include <QtCore/QLocale>
+#include <QtCore/QTimer>
 #include <QtNetwork/QNetworkAccessManager>
 #include <QtNetwork/QNetworkReply>
 #include <QtNetwork/QNetworkRequest>
+
+#include <climits>
+#include <random>
 
 static_assert(int(CKyNANetworkReply::OperationCanceledError) == int(QNetworkReply::OperationCanceledError),
               "");
@@ -85,6 +92,8 @@ void DropCredentials(QNetworkRequest& request)
             qstricmp(text, "Cookie") == 0)
             request.setRawHeader(name, QByteArray()); // a null value removes the header
     }
+    request.setAttribute(QNetworkRequest::Attribute(CKyNANetworkRequestImpl::CredentialsAttribute),
+                         QVariant());
 }
 
 // Where the answer at hand redirects to, if it is a redirect to follow at
@@ -95,6 +104,57 @@ QUrl RedirectTarget(const QNetworkReply* reply)
         return QUrl();
     const QByteArray location = reply->rawHeader("Location");
     return location.isEmpty() ? QUrl() : QUrl::fromEncoded(location);
+}
+
+// Failures of the connection that another try may not meet; a cancelled
+// transfer (abort, time-out) is never among them.
+bool IsConnectionFailure(int code)
+{
+    switch (code) {
+    case QNetworkReply::ConnectionRefusedError:
+    case QNetworkReply::RemoteHostClosedError:
+    case QNetworkReply::TimeoutError:
+    case QNetworkReply::TemporaryNetworkFailureError:
+    case QNetworkReply::NetworkSessionFailedError:
+    case QNetworkReply::UnknownNetworkError:
+    case QNetworkReply::ProxyConnectionRefusedError:
+    case QNetworkReply::ProxyConnectionClosedError:
+    case QNetworkReply::ProxyTimeoutError:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool IsRetryStatus(int status)
+{
+    return status == 502 || status == 503 || status == 504;
+}
+
+// Milliseconds a Retry-After header asks for (seconds or an HTTP date); -1
+// without a readable one.
+qint64 RetryAfterMs(const QNetworkReply* reply)
+{
+    const QByteArray value = reply->rawHeader("Retry-After").trimmed();
+    if (value.isEmpty())
+        return -1;
+    bool seconds = false;
+    const qint64 count = value.toLongLong(&seconds);
+    if (seconds)
+        return count < 0 ? -1 : qMin<qint64>(count, INT_MAX / 1000) * 1000;
+    QDateTime when = QLocale::c().toDateTime(QString::fromLatin1(value),
+                                             QStringLiteral("ddd, dd MMM yyyy HH:mm:ss 'GMT'"));
+    if (!when.isValid())
+        return -1;
+    when.setTimeSpec(Qt::UTC);
+    return qMax<qint64>(0, QDateTime::currentDateTimeUtc().msecsTo(when));
+}
+
+// Half to all of `ms`: clients that failed together do not come back together.
+int Jittered(int ms)
+{
+    static std::minstd_rand generator{std::random_device{}()};
+    return ms / 2 + int(std::uniform_int_distribution<int>(0, ms - ms / 2)(generator));
 }
 
 } // namespace
@@ -124,12 +184,18 @@ void CKyNANetworkReplyImpl::ConnectNetworkReplySignalsImpl()
     m_connections << QObject::connect(
         reply, errorSignalOfReply, reply,
         [this, reply](QNetworkReply::NetworkError code) {
+            // A try that goes again fails silently.
+            if (m_redirects &&
+                (m_redirects->retryInMs >= 0 || RetryImpl(reply, CKyNANetworkReply::NetworkError(code))))
+                return;
             OnError(CKyNANetworkReply::NetworkError(code), reply);
         },
         Qt::DirectConnection);
     m_connections << QObject::connect(
         reply, &QNetworkReply::finished, reply,
         [this, reply] {
+            if (m_redirects && m_redirects->retryInMs >= 0)
+                return WaitAndRetryImpl(reply);
             // Only a transfer that follows redirects ever skips a body.
             if (m_skipBody && FollowImpl(reply))
                 return;
@@ -191,6 +257,13 @@ QVariant CKyNANetworkReplyImpl::AttributeImpl(CKyNANetworkRequest::Attribute cod
 
 void CKyNANetworkReplyImpl::AbortImpl()
 {
+    // Between two tries there is no transfer to abort: the wait ends it.
+    if (m_redirects && m_redirects->wait) {
+        delete m_redirects->wait.data();
+        OnRedirectRefused(CKyNANetworkReply::OperationCanceledError, QStringLiteral("Operation canceled"), 0,
+                          HeaderPairs());
+        return;
+    }
     if (QNetworkReply* reply = toolkitReply(owner()))
         reply->abort();
 }
@@ -235,8 +308,10 @@ void CKyNANetworkReplyImpl::FollowRedirectsImpl()
     m_connections << QObject::connect(
         reply, &QNetworkReply::metaDataChanged, reply,
         [this, reply] {
-            if (RedirectTarget(reply).isValid())
+            if (m_redirects->follow && RedirectTarget(reply).isValid())
                 OnRedirectArrived();
+            else if (IsRetryStatus(StatusOf(reply)) && RetryImpl(reply, CKyNANetworkReply::NoError))
+                m_skipBody = true; // the body of a try that goes again is not the client's
         },
         Qt::DirectConnection);
 }
@@ -289,6 +364,66 @@ bool CKyNANetworkReplyImpl::FollowImpl(QObject* toolkitReply)
         (!device || device->isSequential() || !device->seek(redirects.devicePos)))
         return refuse(CKyNANetworkReply::ContentReSendError, "Cannot send the upload again");
 
+    ReissueImpl(reply, request, operation);
+    --redirects.left;
+    return true;
+}
+
+bool CKyNANetworkReplyImpl::RetryImpl(QObject* toolkitReply, CKyNANetworkReply::NetworkError code)
+{
+    auto* reply = static_cast<QNetworkReply*>(toolkitReply);
+    Redirects& retries = *m_redirects;
+    // An answer is judged once, by its headers; a failure without one by its
+    // error.
+    const int status = StatusOf(reply);
+    const bool again =
+        status ? IsRetryStatus(status) && code == CKyNANetworkReply::NoError : IsConnectionFailure(code);
+    if (retries.triesLeft <= 0 || !again)
+        return false;
+    // An upload from a device goes again only if the device can go back.
+    if (retries.fromDevice && (!retries.device || retries.device->isSequential()))
+        return false;
+    const qint64 asked = RetryAfterMs(reply);
+    const qint64 wait = asked >= 0 ? asked : Jittered(retries.backOffMs);
+    // Every try and wait within the transfer's time-out: a wait that would
+    // outlast it leaves this answer as the last.
+    auto* guard = qobject_cast<CKyNANetworkReplyTimeout*>(retries.guard.data());
+    if (guard && wait >= guard->remainingMs())
+        return false;
+    retries.retryInMs = int(wait);
+    return true;
+}
+
+void CKyNANetworkReplyImpl::WaitAndRetryImpl(QObject* toolkitReply)
+{
+    auto* reply = static_cast<QNetworkReply*>(toolkitReply);
+    Redirects& retries = *m_redirects;
+    m_skipBody = false;
+    --retries.triesLeft;
+    retries.backOffMs = retries.backOffMs > INT_MAX / 2 ? INT_MAX : retries.backOffMs * 2;
+    auto* timer = new QTimer(reply);
+    timer->setSingleShot(true);
+    timer->setTimerType(Qt::PreciseTimer);
+    m_connections << QObject::connect(
+        timer, &QTimer::timeout, reply,
+        [this, reply] {
+            delete m_redirects->wait.data();
+            if (m_redirects->device)
+                m_redirects->device->seek(m_redirects->devicePos);
+            ReissueImpl(reply, reply->request(), reply->operation());
+        },
+        Qt::DirectConnection);
+    retries.wait = timer;
+    timer->start(retries.retryInMs);
+    retries.retryInMs = -1;
+}
+
+void CKyNANetworkReplyImpl::ReissueImpl(QObject* toolkitReply, const QNetworkRequest& request, int operation)
+{
+    auto* reply = static_cast<QNetworkReply*>(toolkitReply);
+    Redirects& redirects = *m_redirects;
+    QIODevice* device = redirects.device;
+    auto* guard = qobject_cast<CKyNANetworkReplyTimeout*>(redirects.guard.data());
     QNetworkAccessManager* manager = reply->manager();
     QNetworkReply* next = nullptr;
     switch (operation) {
@@ -312,7 +447,6 @@ bool CKyNANetworkReplyImpl::FollowImpl(QObject* toolkitReply)
         next = manager->get(request);
         break;
     }
-    --redirects.left;
     // The guard first: its stop must come before this reply's own handlers.
     if (guard)
         guard->follow(next);
@@ -324,5 +458,4 @@ bool CKyNANetworkReplyImpl::FollowImpl(QObject* toolkitReply)
     ConnectNetworkReplySignalsImpl();
     if (m_streaming)
         StartStreamingImpl();
-    return true;
 }

@@ -54,6 +54,11 @@ bool CKyNANetworkReplyTimeout::expired() const
     return m_started.nsecsElapsed() >= qint64(m_msec) * 1000000;
 }
 
+long long CKyNANetworkReplyTimeout::remainingMs() const
+{
+    return m_msec - m_started.elapsed();
+}
+
 void CKyNANetworkReplyTimeout::follow(QNetworkReply* next)
 {
     if (QObject* previous = parent())

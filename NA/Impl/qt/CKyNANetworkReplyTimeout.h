@@ -28,6 +28,8 @@ public:
     void watchInactivity(int msec);
     // Whether the whole-transfer time is up.
     bool expired() const;
+    // Milliseconds left of the whole-transfer time.
+    long long remainingMs() const;
     // Moves the guard to the reply that follows a redirect: what is left of
     // the whole-transfer bound goes on, the silence bound starts afresh.
     void follow(QNetworkReply* next);

@@ -99,3 +99,12 @@ void CKyNANetworkRequestImpl::SetRedirectPolicyImpl()
     // reply follows them itself (the toolkit would carry the credentials
     // along to another origin).
 }
+
+void CKyNANetworkRequestImpl::SetCredentialsImpl()
+{
+    QNetworkRequest* request = m_owner->getHandle();
+    if (!request)
+        return;
+    const auto code = QNetworkRequest::Attribute(CredentialsAttribute);
+    request->setAttribute(code, m_user.isEmpty() ? QVariant() : QVariant(QStringList{m_user, m_password}));
+}
