@@ -115,6 +115,11 @@ bool CKyUIObject::signalsBlocked() const
     return m_data->signalsBlocked;
 }
 
+const bool* CKyUIObject::signalsBlockedFlag() const
+{
+    return &m_data->signalsBlocked;
+}
+
 void CKyUIObject::setInteractive(bool interactive)
 {
     m_data->interactive = interactive;

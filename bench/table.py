@@ -1,7 +1,10 @@
 #!/usr/bin/env python3
 """One table from the JSON output of the benchmark programs of one run.
 
-    bench/table.py [--markdown] build-release/bench-results/*.json
+    bench/table.py [--markdown] [--ratios OUT.json] build-release/bench-results/*.json
+
+With --ratios, each case's ratio to its reference is also written to OUT.json
+(case name to number), the form bench/check.py compares.
 
 Each case keeps its best (lowest) figure over the repetitions: the CPU time,
 or the measured time for the cases that time themselves (manual_time), which
@@ -156,7 +159,13 @@ def rows(cases, order):
 
 
 def main(argv):
+    argv = list(argv)
     markdown = "--markdown" in argv
+    ratios_out = None
+    if "--ratios" in argv:
+        at = argv.index("--ratios")
+        ratios_out = argv[at + 1]
+        del argv[at:at + 2]
     paths = [a for a in argv if a != "--markdown"]
     if not paths:
         print(__doc__.strip())
@@ -164,6 +173,11 @@ def main(argv):
     cases, order = load(paths)
     header = ("case", "CPU per item", "ratio", "vs", "wall per item", "note")
     table = list(rows(cases, order))
+    if ratios_out:
+        with open(ratios_out, "w") as f:
+            ratios = {row[0]: float(row[2][:-1]) for row in table if row[2].endswith("x")}
+            json.dump(ratios, f, indent=1, sort_keys=True)
+            f.write("\n")
     if markdown:
         print("| " + " | ".join(header) + " |")
         print("|" + "|".join(["---", "---:", "---:", "---", "---:", "---"]) + "|")

@@ -9,6 +9,8 @@
 class QObject;
 class CKyUIObjectData;
 class CKyUIObjectImpl;
+template <class Sig>
+class CKyUISignal;
 
 /// Root of every public class: a place in the tree of public objects, the one
 /// toolkit object that does the work (the handle), a name, named properties and
@@ -144,6 +146,12 @@ protected:
     template <class Impl> Impl* implAs() const { return static_cast<Impl*>(impl()); }
 
 private:
+    // A signal reads its owner's blocking through this on every emission,
+    // without a call into the library.
+    template <class Sig>
+    friend class CKyUISignal;
+    const bool* signalsBlockedFlag() const;
+
     void startInteractive();
 
     CKyUIObjectImpl* m_impl;

@@ -58,6 +58,7 @@ public:
     /// its signals; clients reach them through accessors such as clicked().
     explicit CKyUISignal(CKyUIObject* owner)
         : m_owner(owner)
+        , m_blocked(owner ? owner->signalsBlockedFlag() : &kNeverBlocked)
     {
     }
 
@@ -69,13 +70,18 @@ public:
     /// one made from inside a slot. The sender is left alone.
     void Emit(Args... args)
     {
-        if (m_owner && m_owner->signalsBlocked())
+        if (*m_blocked)
             return;
         this->emit(std::forward<Args>(args)...);
     }
 
 private:
+    static constexpr bool kNeverBlocked = false;
+
     CKyUIObject* const m_owner;
+    // The owner's flag, which lives as long as the owner: the signal dies
+    // with the owner's implementation, before the owner's state.
+    const bool* const m_blocked;
 };
 
 /// Tells the receivers of an emission who sent it: sets the object's sender for
