@@ -4,6 +4,7 @@
 
 #include "CommonUIVersion.h"
 
+#include "NA/CKyNAMultipartForm.h"
 #include "NA/CKyNANetworkAccessManager.h"
 #include "NA/CKyNANetworkReply.h"
 #include "NA/CKyNANetworkRequest.h"

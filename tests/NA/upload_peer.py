@@ -1,0 +1,74 @@
+#!/usr/bin/python3
+"""An HTTP peer for the upload tests, listening on 127.0.0.1 on a free port.
+
+Prints "http://127.0.0.1:PORT" once it listens and exits when its standard
+input closes. A POST or PUT is answered 200 with a JSON object telling what
+arrived: "method", "type" (the Content-Type), "json" (the body parsed as
+JSON, or null), "fields" (name to text) and "files" (name, filename, type,
+size and sha256 of each file part) of a multipart form.
+  GET /bad-json   answers '{"a": 1,}' as application/json
+  any /307        answers 307 to /echo, any /303 answers 303 to /echo
+"""
+import email.parser
+import email.policy
+import hashlib
+import http.server
+import json
+import os
+import sys
+import threading
+
+
+class Handler(http.server.BaseHTTPRequestHandler):
+    protocol_version = "HTTP/1.1"
+
+    def answer(self, status, body, headers=()):
+        self.send_response(status)
+        for name, value in headers:
+            self.send_header(name, value)
+        self.send_header("Content-Length", str(len(body)))
+        self.end_headers()
+        self.wfile.write(body)
+
+    def do_GET(self):
+        if self.path == "/bad-json":
+            self.answer(200, b'{"a": 1,}', [("Content-Type", "application/json")])
+        else:
+            self.answer(200, b'{"method": "GET"}', [("Content-Type", "application/json")])
+
+    def do_POST(self):
+        body = self.rfile.read(int(self.headers.get("Content-Length", "0")))
+        for code in ("307", "303"):
+            if self.path == "/" + code:
+                self.answer(int(code), b"", [("Location", "/echo")])
+                return
+        kind = self.headers.get("Content-Type", "")
+        seen = {"method": self.command, "type": kind, "json": None, "fields": {}, "files": []}
+        if "json" in kind:
+            seen["json"] = json.loads(body)
+        elif kind.startswith("multipart/form-data"):
+            form = email.parser.BytesParser(policy=email.policy.HTTP).parsebytes(
+                b"Content-Type: " + kind.encode() + b"\r\n\r\n" + body)
+            for part in form.iter_parts():
+                name = part.get_param("name", header="content-disposition")
+                data = part.get_payload(decode=True)
+                if part.get_filename() is None:
+                    seen["fields"][name] = data.decode()
+                else:
+                    seen["files"].append({"name": name, "filename": part.get_filename(),
+                                          "type": part.get_content_type(), "size": len(data),
+                                          "sha256": hashlib.sha256(data).hexdigest()})
+        self.answer(200, json.dumps(seen).encode(), [("Content-Type", "application/json")])
+
+    do_PUT = do_POST
+
+    def log_message(self, *args):
+        pass
+
+
+server = http.server.ThreadingHTTPServer(("127.0.0.1", 0), Handler)
+server.daemon_threads = True
+threading.Thread(target=server.serve_forever, daemon=True).start()
+print(f"http://127.0.0.1:{server.server_address[1]}", flush=True)
+sys.stdin.read()
+os._exit(0)
