@@ -80,7 +80,7 @@ def main():
         ([http_url, "--json", '{"a": [1]}', "--method", "put", "--body"], 0, 'application/json {"a":[1]}'),
         ([http_url, "--form", "title=bracket", "--form", "model=@" + part, "--body"], 0,
          'Content-Disposition: form-data; name="model"; filename="part.txt"'),
-        ([http_url, "--json", '{"a": }'], 2, "fetch: --json: not JSON at offset 6: illegal value"),
+        ([http_url, "--json", '{"a" 1}'], 2, "fetch: --json: not JSON at offset 6: missing name separator"),
         ([http_url, "--json", "@/no/such"], 2, "fetch: cannot read /no/such: No such file or directory"),
         ([http_url, "--form", "f=@/no/such"], 2, "fetch: --form: cannot add f=@/no/such"),
         ([http_url, "--form", "title"], 2, "fetch: a form field reads NAME=VALUE or NAME=@FILE: title"),
