@@ -2,12 +2,11 @@
 """An HTTP peer for the upload tests, listening on 127.0.0.1 on a free port.
 
 Prints "http://127.0.0.1:PORT" once it listens and exits when its standard
-input closes. A POST or PUT is answered 200 with a JSON object telling what
-arrived: "method", "type" (the Content-Type), "json" (the body parsed as
-JSON, or null), "fields" (name to text) and "files" (name, filename, type,
-size and sha256 of each file part) of a multipart form.
-  GET /bad-json   answers '{"a": 1,}' as application/json
-  any /307        answers 307 to /echo, any /303 answers 303 to /echo
+input closes. A POST or PUT is answered with a JSON object of what arrived:
+"method", "type" (the media type), "json" (a JSON body), "fields" and "files"
+(name, filename, type, size and sha256) of a multipart form, the empty ones
+left out. GET /bad-json answers '{"a": 1,}'; POST /307 and /303 redirect to
+/echo.
 """
 import email.parser
 import email.policy
@@ -31,10 +30,7 @@ class Handler(http.server.BaseHTTPRequestHandler):
         self.wfile.write(body)
 
     def do_GET(self):
-        if self.path == "/bad-json":
-            self.answer(200, b'{"a": 1,}', [("Content-Type", "application/json")])
-        else:
-            self.answer(200, b'{"method": "GET"}', [("Content-Type", "application/json")])
+        self.answer(200, b'{"a": 1,}' if self.path == "/bad-json" else b'{"method": "GET"}')
 
     def do_POST(self):
         body = self.rfile.read(int(self.headers.get("Content-Length", "0")))
@@ -43,7 +39,7 @@ class Handler(http.server.BaseHTTPRequestHandler):
                 self.answer(int(code), b"", [("Location", "/echo")])
                 return
         kind = self.headers.get("Content-Type", "")
-        seen = {"method": self.command, "type": kind, "json": None, "fields": {}, "files": []}
+        seen = {"method": self.command, "type": kind.split(";")[0], "fields": {}, "files": []}
         if "json" in kind:
             seen["json"] = json.loads(body)
         elif kind.startswith("multipart/form-data"):
@@ -58,6 +54,7 @@ class Handler(http.server.BaseHTTPRequestHandler):
                     seen["files"].append({"name": name, "filename": part.get_filename(),
                                           "type": part.get_content_type(), "size": len(data),
                                           "sha256": hashlib.sha256(data).hexdigest()})
+        seen = {key: value for key, value in seen.items() if value}
         self.answer(200, json.dumps(seen).encode(), [("Content-Type", "application/json")])
 
     do_PUT = do_POST
