@@ -204,14 +204,11 @@ TEST(WebSocketPeer, ClosedOrDeletedFromEachOfItsSignals)
 TEST(WebSocketPeer, TalksBackAndReconnectsOnlyAfterAnAbnormalEnd)
 {
     Peer peer;
-    ClosedPort closedPort;
     const std::pair<QString, const char*> rows[] = {
         {peer.url("/echo"), "connected text:hi binary:2 disconnected closed:1001,leaving"},
         {peer.url("/close/1000/done"), "connected disconnected closed:1000,done"},
         {peer.url("/close/4001/x"), "connected disconnected closed:4001,x"},
         {peer.url("/", 2), "connected text:hello error:1 disconnected closed:1006, reconnecting:1,60000"},
-        {QStringLiteral("ws://127.0.0.1:%1/").arg(closedPort.url().port()),
-         "disconnected closed:1006, reconnecting:1,60000 error:0"},
         {peer.url("/hang"), "error:5 disconnected closed:1006, reconnecting:1,60000"},
     };
     std::vector<std::unique_ptr<Socket>> sockets;
@@ -260,8 +257,7 @@ TEST(WebSocketPeer, TalksBackAndReconnectsOnlyAfterAnAbnormalEnd)
     peer.tell("stop");
     ASSERT_TRUE(waitUntil([&] { return lost.log.has("reconnecting:1,200"); }));
     peer.tell("start");
-    ASSERT_TRUE(waitUntil([&] { return lost.log.count("connected") == 2; }, 10000))
-        << qPrintable(lost.log.lines.join(' '));
+    ASSERT_TRUE(waitUntil([&] { return lost.log.count("connected") == 2; }, 10000));
     lost.textMessageReceived().connect(
         [&](const QString&) { lost.close(CKyNAWebSocketProtocol::CloseCodeNormal, {}); });
     EXPECT_GT(lost.sendTextMessage("back"), 0);

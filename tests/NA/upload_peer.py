@@ -21,10 +21,10 @@ import threading
 class Handler(http.server.BaseHTTPRequestHandler):
     protocol_version = "HTTP/1.1"
 
-    def answer(self, status, body, headers=()):
+    def answer(self, status, body, location=None):
         self.send_response(status)
-        for name, value in headers:
-            self.send_header(name, value)
+        if location:
+            self.send_header("Location", location)
         self.send_header("Content-Length", str(len(body)))
         self.end_headers()
         self.wfile.write(body)
@@ -34,10 +34,8 @@ class Handler(http.server.BaseHTTPRequestHandler):
 
     def do_POST(self):
         body = self.rfile.read(int(self.headers.get("Content-Length", "0")))
-        for code in ("307", "303"):
-            if self.path == "/" + code:
-                self.answer(int(code), b"", [("Location", "/echo")])
-                return
+        if self.path in ("/307", "/303"):
+            return self.answer(int(self.path[1:]), b"", "/echo")
         kind = self.headers.get("Content-Type", "")
         seen = {"method": self.command, "type": kind.split(";")[0], "fields": {}, "files": []}
         if "json" in kind:
@@ -55,7 +53,7 @@ class Handler(http.server.BaseHTTPRequestHandler):
                                           "type": part.get_content_type(), "size": len(data),
                                           "sha256": hashlib.sha256(data).hexdigest()})
         seen = {key: value for key, value in seen.items() if value}
-        self.answer(200, json.dumps(seen).encode(), [("Content-Type", "application/json")])
+        self.answer(200, json.dumps(seen).encode())
 
     do_PUT = do_POST
 

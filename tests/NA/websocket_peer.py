@@ -1,17 +1,13 @@
 #!/usr/bin/python3
 """A web-socket peer for the tests, on python3-websockets, listening on 127.0.0.1.
 
-Listens twice, in plain text and in TLS with a self-signed certificate for
-127.0.0.1 that it makes with openssl, once more as a raw TCP peer that
-upgrades any request, says "hello" and drops the connection without a close
-frame, and once more in plain text as a peer that stops and starts again on
-its port when told. Prints the four base URLs on one line ("ws://127.0.0.1:PORT
-wss://127.0.0.1:PORT ws://127.0.0.1:PORT ws://127.0.0.1:PORT"). Reads lines
-from its standard input: "stop" drops the connections of the last peer without
-a close frame and stops it listening, "start" listens again on the same port;
-each is answered with a line "stopped" or "started". Exits when its standard
-input closes, so it never outlives the test that started it. The path of the
-request picks what it does:
+Listens in plain text, in TLS with a self-signed certificate for 127.0.0.1
+that it makes with openssl, as a raw TCP peer that upgrades any request, says
+"hello" and drops the connection without a close frame, and in plain text on a
+port that the lines "stop" (drop its connections, stop listening) and "start"
+on its standard input turn off and on, answered "stopped" and "started".
+Prints the four base URLs on one line. Exits when its standard input closes,
+so it never outlives the test that started it. The path picks what it does:
   /echo              sends every text and binary message back
   /close/CODE/REASON closes at once with CODE and the URL-decoded REASON
   /close             closes at once with a close frame that carries no code
@@ -105,17 +101,12 @@ async def main():
             if announce:
                 print("started", flush=True)
 
-    pending = b""
-
+    # One command at a time: the test waits for each answer.
     def on_stdin():
-        nonlocal pending
-        data = sys.stdin.buffer.read1(4096)
-        if not data:
+        line = sys.stdin.buffer.readline()
+        if not line:
             os._exit(0)
-        pending += data
-        while b"\n" in pending:
-            line, pending = pending.split(b"\n", 1)
-            asyncio.ensure_future(command(line.decode().strip()))
+        asyncio.ensure_future(command(line.decode().strip()))
 
     asyncio.get_running_loop().add_reader(sys.stdin, on_stdin)
     await command("start", announce=False)
