@@ -2,6 +2,9 @@
 
 #include "NA/Impl/CKyNANetworkAccessManagerImpl.h"
 
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
+
 CKyNANetworkAccessManager::CKyNANetworkAccessManager()
 {
     setImpl(new CKyNANetworkAccessManagerImpl(this));
@@ -32,6 +35,41 @@ CKyNANetworkReply* CKyNANetworkAccessManager::put(const CKyNANetworkRequest& req
 CKyNANetworkReply* CKyNANetworkAccessManager::put(const CKyNANetworkRequest& request, const QByteArray& data)
 {
     return implAs<CKyNANetworkAccessManagerImpl>()->put(request, data);
+}
+
+CKyNANetworkReply* CKyNANetworkAccessManager::post(const CKyNANetworkRequest& request,
+                                                   const QJsonDocument& json)
+{
+    return implAs<CKyNANetworkAccessManagerImpl>()->sendJson(request, json, false);
+}
+
+CKyNANetworkReply* CKyNANetworkAccessManager::post(const CKyNANetworkRequest& request,
+                                                   const QJsonObject& json)
+{
+    return implAs<CKyNANetworkAccessManagerImpl>()->sendJson(request, QJsonDocument(json), false);
+}
+
+CKyNANetworkReply* CKyNANetworkAccessManager::put(const CKyNANetworkRequest& request,
+                                                  const QJsonDocument& json)
+{
+    return implAs<CKyNANetworkAccessManagerImpl>()->sendJson(request, json, true);
+}
+
+CKyNANetworkReply* CKyNANetworkAccessManager::put(const CKyNANetworkRequest& request, const QJsonObject& json)
+{
+    return implAs<CKyNANetworkAccessManagerImpl>()->sendJson(request, QJsonDocument(json), true);
+}
+
+CKyNANetworkReply* CKyNANetworkAccessManager::post(const CKyNANetworkRequest& request,
+                                                   const CKyNAMultipartForm& form)
+{
+    return implAs<CKyNANetworkAccessManagerImpl>()->sendForm(request, form, false);
+}
+
+CKyNANetworkReply* CKyNANetworkAccessManager::put(const CKyNANetworkRequest& request,
+                                                  const CKyNAMultipartForm& form)
+{
+    return implAs<CKyNANetworkAccessManagerImpl>()->sendForm(request, form, true);
 }
 
 CKyNANetworkReply* CKyNANetworkAccessManager::deleteResource(const CKyNANetworkRequest& request)

@@ -34,6 +34,11 @@ CKyNANetworkReply::NetworkError CKyNANetworkReply::error() const
     return implAs<CKyNANetworkReplyImpl>()->errorCode();
 }
 
+CKyNANetworkReply::NetworkError CKyNANetworkReply::networkError() const
+{
+    return implAs<CKyNANetworkReplyImpl>()->errorCode();
+}
+
 QString CKyNANetworkReply::errorString() const
 {
     return implAs<CKyNANetworkReplyImpl>()->errorString();
@@ -122,6 +127,11 @@ CKyUISignal<void()>& CKyNANetworkReply::finished()
 QByteArray CKyNANetworkReply::read(long long maxSize)
 {
     return implAs<CKyNANetworkReplyImpl>()->read(maxSize);
+}
+
+QJsonDocument CKyNANetworkReply::readJson(QJsonParseError* error)
+{
+    return implAs<CKyNANetworkReplyImpl>()->readJson(error);
 }
 
 QUrl CKyNANetworkReply::url() const

@@ -83,3 +83,38 @@ CKyUISignal<void(long long, const QByteArray&)>& CKyNAWebSocket::pong()
 {
     return implAs<CKyNAWebSocketImpl>()->pong;
 }
+
+long long CKyNAWebSocket::sendTextMessage(const QString& message)
+{
+    return implAs<CKyNAWebSocketImpl>()->sendTextMessage(message);
+}
+
+long long CKyNAWebSocket::sendBinaryMessage(const QByteArray& data)
+{
+    return implAs<CKyNAWebSocketImpl>()->sendBinaryMessage(data);
+}
+
+void CKyNAWebSocket::setReconnect(int maxAttempts, int firstDelayMs, int maxDelayMs)
+{
+    implAs<CKyNAWebSocketImpl>()->SetReconnect(maxAttempts, firstDelayMs, maxDelayMs);
+}
+
+int CKyNAWebSocket::reconnectAttempts() const
+{
+    return implAs<CKyNAWebSocketImpl>()->GetReconnectAttempts();
+}
+
+CKyUISignal<void(const QByteArray&)>& CKyNAWebSocket::binaryMessageReceived()
+{
+    return implAs<CKyNAWebSocketImpl>()->binaryMessageReceived;
+}
+
+CKyUISignal<void(long long)>& CKyNAWebSocket::bytesWritten()
+{
+    return implAs<CKyNAWebSocketImpl>()->bytesWritten;
+}
+
+CKyUISignal<void(int, int)>& CKyNAWebSocket::reconnecting()
+{
+    return implAs<CKyNAWebSocketImpl>()->reconnecting;
+}

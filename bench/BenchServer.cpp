@@ -5,7 +5,8 @@
 //
 // HTTP: HTTP/1.1 with keep-alive; every request, whatever its method and path,
 // is answered "200 OK" with a 16-byte body once its body (Content-Length) has
-// arrived; only GET /bytes/N is answered with N bytes, written as fast as the
+// arrived (a body over 1 MiB is counted as it arrives, not kept); only GET
+// /bytes/N is answered with N bytes, written as fast as the
 // client takes them (never more than 1 MiB waits in this process). Qt's HTTP client sends a POST's head and
 // body in two writes on a socket with Nagle's algorithm on, so the body waits for the server to acknowledge
 // the head; a delayed acknowledgement would add some 40 ms to every POST on a reused connection. The server
@@ -68,6 +69,7 @@ struct HttpConnection
 {
     QByteArray buffer;
     qint64 bodyLeft = 0; // of a /bytes/N answer still being written
+    qint64 discard = 0;  // of a large upload still arriving, counted but not kept
 };
 
 void PumpBody(QTcpSocket* socket, HttpConnection& connection)
@@ -89,8 +91,15 @@ void ServeHttp(QTcpSocket* socket, HttpConnection& connection)
             return;
         const int length = ContentLength(buffer.left(headEnd));
         const int total = headEnd + 4 + length;
-        if (buffer.size() < total)
+        if (buffer.size() < total) {
+            // A large upload is answered once it has all arrived, without
+            // holding it.
+            if (length > (1 << 20)) {
+                connection.discard = total - buffer.size();
+                buffer.clear();
+            }
             return;
+        }
         const QByteArray path = buffer.left(buffer.indexOf('\r')).split(' ').value(1);
         buffer.remove(0, total);
         if (!path.startsWith("/bytes/")) {
@@ -111,7 +120,15 @@ void AcceptHttp(QTcpServer& server)
         AcknowledgeAtOnce(socket);
         auto connection = std::make_shared<HttpConnection>();
         QObject::connect(socket, &QTcpSocket::readyRead, socket, [socket, connection] {
-            connection->buffer.append(socket->readAll());
+            QByteArray data = socket->readAll();
+            if (connection->discard > 0) {
+                const int skipped = int(std::min<qint64>(connection->discard, data.size()));
+                connection->discard -= skipped;
+                data.remove(0, skipped);
+                if (connection->discard == 0)
+                    socket->write(kHttpAnswer);
+            }
+            connection->buffer.append(data);
             AcknowledgeAtOnce(socket);
             ServeHttp(socket, *connection);
         });

@@ -6,7 +6,8 @@
 One row per workload: the heap left behind per unit of work after a warm-up,
 with dialogs keeping their toolkit dialog (the default) and releasing it. Then
 the peak resident memory while a large body arrives, read slowly from a
-streaming reply and read whole at the end.
+streaming reply and read whole at the end, and while a large file is uploaded
+from disk as a multipart form.
 """
 import json
 import sys

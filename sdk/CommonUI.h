@@ -5,6 +5,7 @@
 #include "CommonUIVersion.h"
 
 #include "NA/CKyNAAuthentication.h"
+#include "NA/CKyNAMultipartForm.h"
 #include "NA/CKyNANetworkAccessManager.h"
 #include "NA/CKyNANetworkReply.h"
 #include "NA/CKyNANetworkRequest.h"

@@ -42,6 +42,18 @@ CKyNANetworkReply* CKyNANetworkAccessManagerImpl::put(const CKyNANetworkRequest&
     return PutImpl(request, data);
 }
 
+CKyNANetworkReply* CKyNANetworkAccessManagerImpl::sendJson(const CKyNANetworkRequest& request,
+                                                           const QJsonDocument& json, bool put)
+{
+    return SendJsonImpl(request, json, put);
+}
+
+CKyNANetworkReply* CKyNANetworkAccessManagerImpl::sendForm(const CKyNANetworkRequest& request,
+                                                           const CKyNAMultipartForm& form, bool put)
+{
+    return SendFormImpl(request, form, put);
+}
+
 CKyNANetworkReply* CKyNANetworkAccessManagerImpl::deleteResource(const CKyNANetworkRequest& request)
 {
     return DeleteResourceImpl(request);

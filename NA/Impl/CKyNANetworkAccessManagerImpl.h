@@ -7,6 +7,8 @@
 
 class QByteArray;
 class QIODevice;
+class QJsonDocument;
+class CKyNAMultipartForm;
 class CKyNANetworkAccessManager;
 class CKyNANetworkReply;
 class CKyNANetworkRequest;
@@ -26,6 +28,9 @@ public:
     CKyNANetworkReply* post(const CKyNANetworkRequest& request, const QByteArray& data);
     CKyNANetworkReply* put(const CKyNANetworkRequest& request, QIODevice* data);
     CKyNANetworkReply* put(const CKyNANetworkRequest& request, const QByteArray& data);
+    // A PUT when `put`, else a POST.
+    CKyNANetworkReply* sendJson(const CKyNANetworkRequest& request, const QJsonDocument& json, bool put);
+    CKyNANetworkReply* sendForm(const CKyNANetworkRequest& request, const CKyNAMultipartForm& form, bool put);
     CKyNANetworkReply* deleteResource(const CKyNANetworkRequest& request);
     CKyNANetworkReply* head(const CKyNANetworkRequest& request);
     CKyNANetworkReply* sendCustomRequest(const CKyNANetworkRequest& request, const QByteArray& verb,
@@ -53,6 +58,9 @@ public:
     CKyNANetworkReply* PostImpl(const CKyNANetworkRequest& request, const QByteArray& data);
     CKyNANetworkReply* PutImpl(const CKyNANetworkRequest& request, QIODevice* data);
     CKyNANetworkReply* PutImpl(const CKyNANetworkRequest& request, const QByteArray& data);
+    CKyNANetworkReply* SendJsonImpl(const CKyNANetworkRequest& request, const QJsonDocument& json, bool put);
+    CKyNANetworkReply* SendFormImpl(const CKyNANetworkRequest& request, const CKyNAMultipartForm& form,
+                                    bool put);
     CKyNANetworkReply* DeleteResourceImpl(const CKyNANetworkRequest& request);
     CKyNANetworkReply* HeadImpl(const CKyNANetworkRequest& request);
     CKyNANetworkReply* SendCustomRequestImpl(const CKyNANetworkRequest& request, const QByteArray& verb,

@@ -95,6 +95,11 @@ QByteArray CKyNANetworkReplyImpl::read(long long maxSize)
     return device && maxSize > 0 ? device->read(maxSize) : QByteArray();
 }
 
+QJsonDocument CKyNANetworkReplyImpl::readJson(QJsonParseError* error)
+{
+    return ParseJsonImpl(readAll(), error);
+}
+
 QUrl CKyNANetworkReplyImpl::url() const
 {
     return UrlImpl();

@@ -68,6 +68,7 @@ public:
     long long pos() const;
     bool seek(long long pos);
     QByteArray read(long long maxSize);
+    QJsonDocument readJson(QJsonParseError* error);
     QUrl url() const;
 
     void ignoreSslErrors();
@@ -96,6 +97,7 @@ public:
     QVariant AttributeImpl(CKyNANetworkRequest::Attribute code) const;
     void AbortImpl();
     QUrl UrlImpl() const;
+    static QJsonDocument ParseJsonImpl(const QByteArray& body, QJsonParseError* error);
     void IgnoreSslErrorsImpl(const QList<QSslError>* errors);
     void StartStreamingImpl();
     void FollowRedirectsImpl();

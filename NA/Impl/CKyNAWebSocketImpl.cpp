@@ -9,6 +9,9 @@ CKyNAWebSocketImpl::CKyNAWebSocketImpl(CKyNAWebSocket* owner, const QString& ori
     , error(owner)
     , disconnected(owner)
     , textMessageReceived(owner)
+    , binaryMessageReceived(owner)
+    , bytesWritten(owner)
+    , reconnecting(owner)
     , sslErrors(owner)
     , pong(owner)
 {
@@ -27,6 +30,17 @@ CKyNAWebSocketImpl::~CKyNAWebSocketImpl()
 
 void CKyNAWebSocketImpl::open(const CKyNANetworkRequest& request)
 {
+    m_reconnectAttempt = 0;
+    BeginOpen();
+    OpenImpl(request);
+}
+
+void CKyNAWebSocketImpl::BeginOpen()
+{
+    // Turned off, the timer is stopped already (or was never made).
+    if (m_reconnectMax > 0)
+        StopReconnectTimerImpl();
+    m_closedByUs = false;
     ++m_opens;
     m_connected = false;
     m_closing = false;
@@ -44,12 +58,40 @@ void CKyNAWebSocketImpl::open(const CKyNANetworkRequest& request)
         StartHandshakeTimerImpl();
     else
         StopHandshakeTimerImpl();
-    OpenImpl(request);
 }
 
 void CKyNAWebSocketImpl::close(CKyNAWebSocketProtocol::CloseCode code, const QString& reason)
 {
+    m_closedByUs = true;
+    if (m_reconnectMax > 0)
+        StopReconnectTimerImpl();
     CloseImpl(code, reason);
+}
+
+long long CKyNAWebSocketImpl::sendTextMessage(const QString& message)
+{
+    // Before connected() a frame would corrupt the opening handshake.
+    return m_connected ? SendTextMessageImpl(message) : -1;
+}
+
+long long CKyNAWebSocketImpl::sendBinaryMessage(const QByteArray& data)
+{
+    return m_connected ? SendBinaryMessageImpl(data) : -1;
+}
+
+void CKyNAWebSocketImpl::SetReconnect(int maxAttempts, int firstDelayMs, int maxDelayMs)
+{
+    m_reconnectMax = qMax(0, maxAttempts);
+    m_reconnectFirstDelay = qMax(0, firstDelayMs);
+    m_reconnectMaxDelay = qMax(m_reconnectFirstDelay, maxDelayMs);
+    if (m_reconnectMax == 0)
+        StopReconnectTimerImpl();
+}
+
+bool CKyNAWebSocketImpl::ShouldReconnect() const
+{
+    return m_reconnectMax > 0 && !m_closedByUs && m_reconnectAttempt < m_reconnectMax &&
+           m_closeCode == CKyNAWebSocketProtocol::CloseCodeAbnormalDisconnection;
 }
 
 void CKyNAWebSocketImpl::ping(const QByteArray& payload)
@@ -82,6 +124,7 @@ void CKyNAWebSocketImpl::OnConnected()
 {
     StopHandshakeTimerImpl();
     m_connected = true;
+    m_reconnectAttempt = 0;
     EmitInOrder([this] { connected.Emit(); });
 }
 
@@ -97,12 +140,42 @@ void CKyNAWebSocketImpl::OnDisconnected(CKyNAWebSocketProtocol::CloseCode code, 
     m_connected = false;
     m_closeCode = m_closing ? code : CKyNAWebSocketProtocol::CloseCodeAbnormalDisconnection;
     m_closeReason = m_closing ? reason : QString();
-    EmitInOrder([this] { disconnected.Emit(); });
+    const int opens = m_opens;
+    if (!EmitInOrder([this] { disconnected.Emit(); }))
+        return;
+    // A slot that opened, closed or turned reconnection off has decided.
+    if (opens != m_opens || !ShouldReconnect())
+        return;
+    const int attempt = ++m_reconnectAttempt;
+    long long delay = m_reconnectFirstDelay;
+    for (int i = 1; i < attempt && delay < m_reconnectMaxDelay; ++i)
+        delay *= 2;
+    const int delayMs = int(qMin<long long>(delay, m_reconnectMaxDelay));
+    if (!EmitInOrder([&] { reconnecting.Emit(attempt, delayMs); }))
+        return;
+    if (opens == m_opens && !m_closedByUs && m_reconnectMax > 0)
+        StartReconnectTimerImpl(delayMs);
+}
+
+void CKyNAWebSocketImpl::OnReconnectTimeout()
+{
+    BeginOpen();
+    ReopenImpl();
 }
 
 void CKyNAWebSocketImpl::OnTextMessageReceived(const QString& message)
 {
     EmitInOrder([&] { textMessageReceived.Emit(message); });
+}
+
+void CKyNAWebSocketImpl::OnBinaryMessageReceived(const QByteArray& message)
+{
+    EmitInOrder([&] { binaryMessageReceived.Emit(message); });
+}
+
+void CKyNAWebSocketImpl::OnBytesWritten(long long bytes)
+{
+    EmitInOrder([&] { bytesWritten.Emit(bytes); });
 }
 
 void CKyNAWebSocketImpl::OnClosing()

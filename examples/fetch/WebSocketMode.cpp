@@ -22,6 +22,9 @@ const QCommandLineOption pingOption(QStringLiteral("ping"),
                                     QStringLiteral("Web socket: ping every MS milliseconds and give up on a "
                                                    "server that leaves a ping unanswered until the next."),
                                     QStringLiteral("MS"));
+const QCommandLineOption sendOption(QStringLiteral("send"),
+                                    QStringLiteral("Web socket: send TEXT once connected; may be repeated."),
+                                    QStringLiteral("TEXT"));
 
 // The option's positive whole number; 0 when it is not given, -1 when it is
 // not such a number.
@@ -45,7 +48,7 @@ void printLine(QTextStream& stream, const QString& text)
 void addWebSocketOptions(QCommandLineParser& parser)
 {
     // --insecure is the HTTP mode's option, read here by name.
-    parser.addOptions({messagesOption, forOption, pingOption});
+    parser.addOptions({messagesOption, forOption, pingOption, sendOption});
 }
 
 bool isWebSocketUrl(const QUrl& url)
@@ -55,7 +58,9 @@ bool isWebSocketUrl(const QUrl& url)
 
 int runWebSocket(const QCommandLineParser& parser, const CKyNANetworkRequest& request, int handshakeTimeoutMs)
 {
-    const int messages = number(parser, messagesOption);
+    const QStringList sends = parser.values(sendOption);
+    // What comes back from an echo ends the run unless told otherwise.
+    const int messages = parser.isSet(messagesOption) ? number(parser, messagesOption) : int(sends.size());
     const int pingMs = number(parser, pingOption);
     QTextStream out(stdout);
     QTextStream err(stderr);
@@ -101,11 +106,20 @@ int runWebSocket(const QCommandLineParser& parser, const CKyNANetworkRequest& re
             pinger.start(pingMs);
         if (number(parser, forOption) > 0)
             QTimer::singleShot(number(parser, forOption), &loop, stop);
+        for (const QString& text : sends)
+            socket.sendTextMessage(text);
     });
-    socket.textMessageReceived().connect([&](const QString& message) {
-        printLine(out, message);
+    const auto count = [&] {
         if (++received == messages)
             stop();
+    };
+    socket.textMessageReceived().connect([&](const QString& message) {
+        printLine(out, message);
+        count();
+    });
+    socket.binaryMessageReceived().connect([&](const QByteArray& message) {
+        printLine(out, QStringLiteral("binary: %1 bytes").arg(message.size()));
+        count();
     });
     socket.pong().connect([&](long long, const QByteArray&) { awaitingPong = false; });
     socket.error().connect([&](int code) {

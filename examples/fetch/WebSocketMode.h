@@ -1,8 +1,10 @@
 #pragma once
 
 // fetch's web-socket mode: a ws:// or wss:// URL opens a web socket that
-// sends nothing, prints each text message received on its own line and, when
-// the connection ends, "close: CODE REASON".
+// sends each --send text once connected, prints each text message received on
+// its own line ("binary: N bytes" for a binary one) and, when the connection
+// ends, "close: CODE REASON". With --send and without --messages it closes
+// once as many messages came back as it sent.
 
 class CKyNANetworkRequest;
 class QCommandLineParser;

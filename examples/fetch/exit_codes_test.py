@@ -50,6 +50,17 @@ class Handler(http.server.BaseHTTPRequestHandler):
         self.end_headers()
         self.wfile.write(BODY)
 
+    # Answers with the Content-Type, a space and the body it received.
+    def do_POST(self):
+        body = self.rfile.read(int(self.headers.get("Content-Length", "0")))
+        answer = self.headers.get("Content-Type", "").encode() + b" " + body
+        self.send_response(200)
+        self.send_header("Content-Length", str(len(answer)))
+        self.end_headers()
+        self.wfile.write(answer)
+
+    do_PUT = do_POST
+
     def log_message(self, *args):
         pass
 
@@ -65,7 +76,7 @@ def main():
     closed_port = closed.getsockname()[1]
     peer = subprocess.Popen(["/usr/bin/python3", peer_script], stdin=subprocess.PIPE, stdout=subprocess.PIPE,
                             text=True)
-    ws, _, raw = peer.stdout.readline().split()
+    ws, _, raw, _ = peer.stdout.readline().split()
     work = tempfile.mkdtemp()
     # tinyproxy asking for plugin:secret, on a port that was free a moment ago.
     probe = socket.socket()
@@ -82,6 +93,9 @@ def main():
         except OSError:
             time.sleep(0.05)
     saved = os.path.join(work, "body.bin")
+    part = os.path.join(work, "part.txt")
+    with open(part, "w") as file:
+        file.write("part\n")
 
     # arguments, exit code, a line expected in stdout or stderr
     rows = [
@@ -97,6 +111,14 @@ def main():
         ([http_url + "/body", "--output", "/dev/full"], 3, "fetch: cannot write /dev/full: No space left on device"),
         ([http_url + "/body", "--output", work + "/no/such"], 3,
          f"fetch: cannot write {work}/no/such: No such file or directory"),
+        ([http_url, "--json", '{"a": [1]}', "--method", "put", "--body"], 0, 'application/json {"a":[1]}'),
+        ([http_url, "--form", "title=bracket", "--form", "model=@" + part, "--body"], 0,
+         'Content-Disposition: form-data; name="model"; filename="part.txt"'),
+        ([http_url, "--json", '{"a" 1}'], 2, "fetch: --json: not JSON at offset 6: missing name separator"),
+        ([http_url, "--form", "f=@/no/such"], 2, "fetch: --form: cannot add f=@/no/such"),
+        ([http_url, "--json", "{}", "--data", "x"], 2, "fetch: give only one of --data, --json and --form"),
+        ([http_url, "--json", "{}", "--head"], 2, "fetch: --json and --form go with POST or PUT"),
+        ([ws + "/echo", "--send", "hello", "--send", "again"], 0, "again"),
         ([ws + "/close/1000/done"], 0, "close: 1000 done"),
         ([ws + "/close/4001/bye"], 1, "close: 4001 bye"),
         ([raw], 1, "close: 1006 "),

@@ -1,13 +1,16 @@
 // fetch URL [--timeout MS] [--method VERB] [--head] [--data TEXT]
+//           [--json TEXT|@FILE] [--form NAME=VALUE|NAME=@FILE]...
 //           [--header 'Name: value']... [--body] [--output FILE]
 //           [--cacert FILE] [--insecure] [--location]
 //           [--proxy URL] [--user NAME:PASSWORD] [--bearer TOKEN] [--retry N]
 // fetch ws[s]://... [--timeout MS] [--header 'Name: value']... [--messages N]
-//           [--for MS] [--ping MS] [--insecure] [--cacert FILE]
+//           [--for MS] [--ping MS] [--send TEXT]... [--insecure] [--cacert FILE]
 //
 // Sends one request through CKyNANetworkAccessManager and prints the status
 // code, the received headers and the body size (or the body itself, or
-// streams it into a file with a progress bar on a terminal).
+// streams it into a file with a progress bar on a terminal). --json and
+// --form send a JSON body or a multipart form (files streamed from disk, with
+// a progress bar on a terminal), by POST unless --method PUT.
 //
 // Exit codes, each failure with one line on stderr:
 //   0  the transfer succeeded (a web socket: it ended with a normal closure)
@@ -19,10 +22,13 @@
 //   2  usage: an unknown option, a missing or malformed argument, a --cacert
 //      file without certificates, a --proxy that is no http:// or socks5://
 //      URL (nor "system" or "none"), a --user without ':', a --bearer token
-//      the header check refuses, a --retry that is no whole number from 0
-//      (the help follows the message)
+//      the header check refuses, a --retry that is no whole number from 0,
+//      --json that is no JSON, a --json or --form file that cannot be read,
+//      more than one of --data, --json and --form, --json or --form with a
+//      method other than POST and PUT (the help follows the message)
 //   3  --output could not be opened or written; the transfer is abandoned
 
+#include "NA/CKyNAMultipartForm.h"
 #include "NA/CKyNANetworkAccessManager.h"
 #include "NA/CKyNANetworkReply.h"
 #include "NA/CKyNANetworkRequest.h"
@@ -32,6 +38,7 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QEventLoop>
 #include <QtCore/QFile>
+#include <QtCore/QJsonDocument>
 #include <QtCore/QTextStream>
 #include <QtCore/QUrl>
 
@@ -69,6 +76,43 @@ void drawProgress(long long received, long long total)
     } else {
         err << "\r" << received / 1024 << " KiB";
     }
+}
+
+// --json's document, and --form's fields and files; a usage error's
+// message when they cannot be had.
+QString readBody(const QCommandLineParser& parser, QJsonDocument& json, CKyNAMultipartForm& form)
+{
+    const bool hasJson = parser.isSet(QStringLiteral("json"));
+    const bool hasForm = parser.isSet(QStringLiteral("form"));
+    if (int(parser.isSet(QStringLiteral("data"))) + int(hasJson) + int(hasForm) > 1)
+        return QStringLiteral("give only one of --data, --json and --form");
+    if (hasJson) {
+        const QString value = parser.value(QStringLiteral("json"));
+        QByteArray text = value.toUtf8();
+        if (value.startsWith(QLatin1Char('@'))) {
+            QFile file(value.mid(1));
+            if (!file.open(QIODevice::ReadOnly))
+                return QStringLiteral("cannot read %1: %2").arg(file.fileName(), file.errorString());
+            text = file.readAll();
+        }
+        QJsonParseError error;
+        json = QJsonDocument::fromJson(text, &error);
+        if (error.error != QJsonParseError::NoError)
+            return QStringLiteral("--json: not JSON at offset %1: %2")
+                .arg(error.offset)
+                .arg(error.errorString());
+    }
+    for (const QString& field : parser.values(QStringLiteral("form"))) {
+        const int equals = field.indexOf(QLatin1Char('='));
+        const QString name = field.left(equals);
+        const QString value = field.mid(equals + 1);
+        if (equals <= 0)
+            return QStringLiteral("a form field reads NAME=VALUE or NAME=@FILE: %1").arg(field);
+        if (value.startsWith(QLatin1Char('@')) ? !form.addFile(name, value.mid(1))
+                                               : !form.addField(name, value))
+            return QStringLiteral("--form: cannot add %1").arg(field);
+    }
+    return QString();
 }
 
 } // namespace
@@ -123,9 +167,16 @@ int main(int argc, char** argv)
         QStringLiteral("Retry a GET, HEAD, PUT, DELETE or OPTIONS up to N times after a failed connection "
                        "or a 502, 503 or 504, within the time-out."),
         QStringLiteral("N"));
-    parser.addOptions({timeoutOption, methodOption, headOption, dataOption, headerOption, bodyOption,
-                       outputOption, cacertOption, insecureOption, locationOption, proxyOption, userOption,
-                       bearerOption, retryOption});
+    const QCommandLineOption jsonOption(QStringLiteral("json"),
+                                        QStringLiteral("Send TEXT, or the contents of @FILE, as JSON."),
+                                        QStringLiteral("TEXT"));
+    const QCommandLineOption formOption(
+        QStringLiteral("form"),
+        QStringLiteral("Send a multipart form: field NAME=VALUE or file NAME=@FILE; may be repeated."),
+        QStringLiteral("FIELD"));
+    parser.addOptions({timeoutOption, methodOption, headOption, dataOption, jsonOption, formOption,
+                       headerOption, bodyOption, outputOption, cacertOption, insecureOption, locationOption,
+                       proxyOption, userOption, bearerOption, retryOption});
     addWebSocketOptions(parser);
     // Not process(): it ends the program with 1 on a usage error.
     if (!parser.parse(QCoreApplication::arguments()))
@@ -139,10 +190,19 @@ int main(int argc, char** argv)
     if (!url.isValid())
         return usageError(parser, QStringLiteral("not a URL: %1").arg(parser.positionalArguments().first()));
 
-    const QString method =
-        parser.isSet(headOption) ? QStringLiteral("HEAD") : parser.value(methodOption).toUpper();
+    const bool upload = parser.isSet(jsonOption) || parser.isSet(formOption);
+    const QString method = parser.isSet(headOption)                ? QStringLiteral("HEAD")
+                           : upload && !parser.isSet(methodOption) ? QStringLiteral("POST")
+                                                                   : parser.value(methodOption).toUpper();
     if (method.isEmpty() || method.contains(QLatin1Char(' ')))
         return usageError(parser, QStringLiteral("not a method: '%1'").arg(method));
+    if (upload && method != QLatin1String("POST") && method != QLatin1String("PUT"))
+        return usageError(parser, QStringLiteral("--json and --form go with POST or PUT"));
+    QJsonDocument json;
+    CKyNAMultipartForm form;
+    const QString bodyError = readBody(parser, json, form);
+    if (!bodyError.isEmpty())
+        return usageError(parser, bodyError);
 
     CKyNANetworkRequest request(url);
     if (parser.isSet(timeoutOption)) {
@@ -215,7 +275,12 @@ int main(int argc, char** argv)
     if (parser.isSet(proxyOption))
         manager.setProxy(proxy);
     std::unique_ptr<CKyNANetworkReply> reply;
-    if (method == QLatin1String("GET"))
+    const bool put = method == QLatin1String("PUT");
+    if (parser.isSet(jsonOption))
+        reply.reset(put ? manager.put(request, json) : manager.post(request, json));
+    else if (parser.isSet(formOption))
+        reply.reset(put ? manager.put(request, form) : manager.post(request, form));
+    else if (method == QLatin1String("GET"))
         reply.reset(manager.get(request));
     else if (method == QLatin1String("POST"))
         reply.reset(manager.post(request, data));
@@ -254,6 +319,15 @@ int main(int argc, char** argv)
         writeFailed = true;
         started->abort();
     };
+    if (parser.isSet(formOption) && ::isatty(STDERR_FILENO)) {
+        started->uploadProgress().connect([&progressShown](long long sent, long long total) {
+            // The toolkit ends with (0, 0).
+            if (total <= 0)
+                return;
+            progressShown = true;
+            drawProgress(sent, total);
+        });
+    }
     if (output) {
         // Taken in pieces as it arrives, so a large body never sits in memory.
         started->readyRead().connect([started, &store, &writeFailed] {
@@ -304,7 +378,7 @@ int main(int argc, char** argv)
         }
     }
 
-    const CKyNANetworkReply::NetworkError code = static_cast<const CKyNANetworkReply&>(*reply).error();
+    const CKyNANetworkReply::NetworkError code = reply->networkError();
     if (code != CKyNANetworkReply::NoError) {
         QTextStream err(stderr);
         err << "fetch: error " << int(code) << ": " << reply->errorString() << '\n';

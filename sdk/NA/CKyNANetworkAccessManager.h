@@ -10,6 +10,9 @@
 #include <QtCore/QByteArray>
 
 class QIODevice;
+class QJsonDocument;
+class QJsonObject;
+class CKyNAMultipartForm;
 class CKyNANetworkReply;
 class CKyNANetworkRequest;
 
@@ -59,6 +62,26 @@ public:
     CKyNANetworkReply* put(const CKyNANetworkRequest& request, QIODevice* data);
     /// Starts a PUT of @p data; the caller owns the returned reply.
     CKyNANetworkReply* put(const CKyNANetworkRequest& request, const QByteArray& data);
+    /// Starts a POST of @p json, compact, with the Content-Type
+    /// "application/json" unless the request sets one. The caller owns the
+    /// returned reply; CKyNANetworkReply::readJson() reads a JSON answer.
+    CKyNANetworkReply* post(const CKyNANetworkRequest& request, const QJsonDocument& json);
+    /// Starts a POST of the object @p json, as post() of a QJsonDocument.
+    CKyNANetworkReply* post(const CKyNANetworkRequest& request, const QJsonObject& json);
+    /// Starts a PUT of @p json, as post() of a QJsonDocument does.
+    CKyNANetworkReply* put(const CKyNANetworkRequest& request, const QJsonDocument& json);
+    /// Starts a PUT of the object @p json, as post() of a QJsonDocument.
+    CKyNANetworkReply* put(const CKyNANetworkRequest& request, const QJsonObject& json);
+    /// Starts a POST of @p form as "multipart/form-data" (the Content-Type
+    /// names the boundary unless the request sets one). Files are read from
+    /// disk while the upload runs; the form itself may go at once. The caller
+    /// owns the returned reply.
+    ///
+    /// A redirect that asks for the upload again (307, 308) is not followed:
+    /// the reply ends with `error(CKyNANetworkReply::ContentReSendError)`.
+    CKyNANetworkReply* post(const CKyNANetworkRequest& request, const CKyNAMultipartForm& form);
+    /// Starts a PUT of @p form, as post() of a form does.
+    CKyNANetworkReply* put(const CKyNANetworkRequest& request, const CKyNAMultipartForm& form);
     /// Starts a DELETE; the caller owns the returned reply.
     CKyNANetworkReply* deleteResource(const CKyNANetworkRequest& request);
     /// Starts a HEAD: the reply finishes with the headers and no body. The

@@ -7,6 +7,7 @@
 #include "UI/CKyUISignal.h"
 
 #include <QtCore/QByteArray>
+#include <QtCore/QJsonDocument>
 #include <QtCore/QList>
 #include <QtCore/QPair>
 #include <QtCore/QString>
@@ -120,8 +121,12 @@ public:
     /// finished() has not followed yet.
     bool isRunning() const;
 
-    /// The transfer's error code; NoError while there is none.
+    /// The transfer's error code; NoError while there is none. On a
+    /// non-const reply `error()` names the signal: read networkError() there.
     NetworkError error() const;
+    /// The transfer's error code, as error() const answers it, readable on a
+    /// non-const reply (in a slot: `reply->networkError() != NoError`).
+    NetworkError networkError() const;
     /// The toolkit's text for the error; empty without a toolkit reply.
     QString errorString() const;
 
@@ -146,6 +151,13 @@ public:
     /// toolkit complain: readAll(), read() and seek() then return neutral
     /// values, like the other reads.
     QByteArray read(long long maxSize);
+    /// Takes the rest of the body, as readAll() does, and parses it as JSON.
+    /// A body that is no JSON object or array gives a null document, and
+    /// @p error (when given) says why and where: its `error` is not
+    /// QJsonParseError::NoError, its `offset` is the byte at which parsing
+    /// stopped and its errorString() the toolkit's message. An empty body
+    /// (before error() or finished(), say) is such a failure too.
+    QJsonDocument readJson(QJsonParseError* error = nullptr);
 
     /// The URL of the last request this transfer made: the request's URL, or
     /// the target of the last redirect followed

@@ -13,23 +13,24 @@
 
 class CKyNANetworkRequest;
 
-/// A receive-only web socket, reporting text messages only and sending nothing
-/// but pings and the close (see \ref behaviours_network "behaviours"). It
-/// reports connection, disconnection, errors and incoming text messages.
+/// A web socket that reports connection, disconnection, errors and incoming
+/// messages, and sends text and binary messages, pings and the close (see
+/// \ref behaviours_network "behaviours").
 ///
 /// Order of the signals is the toolkit's: a successful open() gives
-/// connected(), then any number of textMessageReceived(), then disconnected()
-/// after close() or when the connection is lost; a failed open() gives
-/// error() (and disconnected() where the toolkit reports it), never
-/// connected(). A message that arrives while the socket's signals are blocked
-/// is dropped, not queued.
+/// connected(), then any number of textMessageReceived() and
+/// binaryMessageReceived(), then disconnected() after close() or when the
+/// connection is lost; a failed open() gives error() (and disconnected()
+/// where the toolkit reports it), never connected(). A message that arrives
+/// while the socket's signals are blocked is dropped, not queued.
 ///
 /// Options, none of which changes anything for a client that leaves them
 /// alone: on a secure open, sslErrors() comes before connected() and the open
 /// fails after it unless its slot calls ignoreSslErrors(); setHandshakeTimeout()
 /// bounds the opening (error(), then disconnected()); ping() is answered by
 /// pong(), so a client notices a frozen server; closeCode() and closeReason()
-/// tell how the last connection ended.
+/// tell how the last connection ended; setReconnect() opens again, with a
+/// growing delay, after a connection that ended abnormally.
 ///
 /// The client owns the web socket; deleting it closes the connection (the
 /// peer is sent CKyNAWebSocketProtocol::CloseCodeGoingAway) and reports
@@ -77,6 +78,28 @@ public:
     /// decides how long it waits.
     void ping(const QByteArray& payload = QByteArray());
 
+    /// Sends @p message as one text frame and returns the bytes of the
+    /// message queued (its UTF-8 size); bytesWritten() follows as they reach
+    /// the network. Like ping(), does nothing while not connected and then
+    /// returns -1: nothing is queued for a later connection.
+    long long sendTextMessage(const QString& message);
+    /// Sends @p data as one binary frame, as sendTextMessage() does.
+    long long sendBinaryMessage(const QByteArray& data);
+
+    /// Opts in to opening again after a connection that ended abnormally:
+    /// closeCode() CKyNAWebSocketProtocol::CloseCodeAbnormalDisconnection
+    /// (dropped, refused, timed out; see \ref services_websocket_endings),
+    /// never after close() nor after the peer closed with any code. Each
+    /// attempt waits @p firstDelayMs, doubled per attempt up to
+    /// @p maxDelayMs, is announced by reconnecting() and opens the request of
+    /// the last open() again. A connection that succeeds starts the count
+    /// afresh; after @p maxAttempts attempts in a row that failed it stops.
+    /// close() and open() cancel a pending attempt. 0 attempts (the default)
+    /// turns it off.
+    void setReconnect(int maxAttempts, int firstDelayMs = 1000, int maxDelayMs = 30000);
+    /// The attempts given to setReconnect(); 0 when off.
+    int reconnectAttempts() const;
+
     /// Called from a slot of sslErrors(), lets the handshake under way go on
     /// despite every error reported. It holds for that handshake only: the
     /// next open() reports its errors again. Anywhere else it does nothing.
@@ -107,6 +130,15 @@ public:
     CKyUISignal<void()>& disconnected();
     /// Emitted with each text message received.
     CKyUISignal<void(const QString&)>& textMessageReceived();
+    /// Emitted with each binary message received.
+    CKyUISignal<void(const QByteArray&)>& binaryMessageReceived();
+    /// Emitted with the bytes that reached the network: frames with their
+    /// headers, the opening request, pings and the close included.
+    CKyUISignal<void(long long)>& bytesWritten();
+    /// Emitted after disconnected() when setReconnect() opens again: the
+    /// attempt (1 for the first after a connection was lost) and the delay
+    /// in milliseconds before the open.
+    CKyUISignal<void(int, int)>& reconnecting();
     /// Emitted during the TLS handshake of a secure open() with the toolkit's
     /// list of certificate errors, before connected(). Unless a slot calls
     /// ignoreSslErrors(), the open fails: error() with the toolkit's

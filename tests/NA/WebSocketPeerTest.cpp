@@ -15,9 +15,16 @@ struct Peer : QProcess
     {
         start(QStringLiteral("/usr/bin/python3"), {QStringLiteral(COMMONUI_WEBSOCKET_PEER)});
         waitUntil([this] { return canReadLine() || state() == NotRunning; }, 20000);
-        // ws:// wss:// and the raw ws://
+        // ws:// wss:// the raw ws:// and the restartable ws://
         urls = QString::fromUtf8(readLine()).trimmed().split(QLatin1Char(' '));
-        EXPECT_EQ(urls.size(), 3) << qPrintable(errorString() + readAllStandardError());
+        EXPECT_EQ(urls.size(), 4) << qPrintable(errorString() + readAllStandardError());
+    }
+    // "stop" or "start" the restartable peer, and wait until it has.
+    void tell(const char* command)
+    {
+        write(QByteArray(command) + '\n');
+        ASSERT_TRUE(waitUntil([this] { return canReadLine(); }, 10000));
+        EXPECT_EQ(readLine().trimmed(), command == QByteArray("stop") ? "stopped" : "started");
     }
     ~Peer() override { closeWriteChannel(), waitForFinished(5000); }
     QString url(const char* path, int server = 0) const { return urls.value(server) + QLatin1String(path); }
@@ -188,4 +195,72 @@ TEST(WebSocketPeer, ClosedOrDeletedFromEachOfItsSignals)
                 << qPrintable(log.lines.join(' '));
         }
     }
+}
+
+// Messages go both ways once connected and are dropped with -1 before and
+// after. Reconnection follows only an abnormal end, waits a doubling delay,
+// gives up after its attempts in a row, and finds a peer that comes back on
+// its port.
+TEST(WebSocketPeer, TalksBackAndReconnectsOnlyAfterAnAbnormalEnd)
+{
+    Peer peer;
+    const std::pair<QString, const char*> rows[] = {
+        {peer.url("/echo"), "connected text:hi binary:2 disconnected closed:1001,leaving"},
+        {peer.url("/close/1000/done"), "connected disconnected closed:1000,done"},
+        {peer.url("/close/4001/x"), "connected disconnected closed:4001,x"},
+        {peer.url("/", 2), "connected text:hello error:1 disconnected closed:1006, reconnecting:1,60000"},
+        {peer.url("/hang"), "error:5 disconnected closed:1006, reconnecting:1,60000"},
+    };
+    std::vector<std::unique_ptr<Socket>> sockets;
+    for (const auto& row : rows) {
+        sockets.push_back(std::make_unique<Socket>(row.first, row.first.endsWith("/hang") ? 300 : 0));
+        Socket& socket = *sockets.back();
+        socket.setReconnect(1, 60000);
+        socket.log.on(socket.reconnecting(), "reconnecting");
+        socket.binaryMessageReceived().connect(
+            [&socket](const QByteArray& m) { socket.log.add("binary", m.size()); });
+    }
+    Socket& echo = *sockets.front();
+    long long written = 0;
+    echo.bytesWritten().connect([&written](long long bytes) { written += bytes; });
+    EXPECT_EQ(echo.sendTextMessage("early"), -1);
+    echo.connected().connect([&] {
+        EXPECT_EQ(echo.sendTextMessage(QStringLiteral("hi")), 2);
+        EXPECT_EQ(echo.sendBinaryMessage(QByteArray("\0\1", 2)), 2);
+    });
+    echo.binaryMessageReceived().connect(
+        [&](const QByteArray&) { echo.close(CKyNAWebSocketProtocol::CloseCodeGoingAway, "leaving"); });
+    for (int pass = 0; pass < 2; ++pass) {
+        auto socket = sockets.begin();
+        for (const auto& row : rows)
+            (*socket++)->expect(QString::fromUtf8(row.second));
+    }
+    EXPECT_EQ(echo.sendBinaryMessage("late"), -1);
+    EXPECT_GT(written, 4); // the opening request, two frames, the close
+
+    // Two attempts, both refused: then it stops.
+    Socket lost(peer.url("/echo", 3));
+    lost.setReconnect(2, 50, 80);
+    lost.log.on(lost.reconnecting(), "reconnecting");
+    lost.expect("connected");
+    peer.tell("stop");
+    lost.expect("connected error:1 disconnected closed:1006, reconnecting:1,50 disconnected closed:1006, "
+                "reconnecting:2,80 error:0 disconnected closed:1006, error:0");
+    EXPECT_FALSE(waitUntil([&] { return lost.log.count("disconnected") > 3; }, 500));
+
+    // Back before the next attempt, or the one after.
+    peer.tell("start");
+    lost.log.lines.clear();
+    lost.setReconnect(5, 200, 400);
+    lost.open(CKyNANetworkRequest(QUrl(peer.url("/echo", 3))));
+    lost.expect("connected");
+    peer.tell("stop");
+    ASSERT_TRUE(waitUntil([&] { return lost.log.has("reconnecting:1,200"); }));
+    peer.tell("start");
+    ASSERT_TRUE(waitUntil([&] { return lost.log.count("connected") == 2; }, 10000));
+    lost.textMessageReceived().connect(
+        [&](const QString&) { lost.close(CKyNAWebSocketProtocol::CloseCodeNormal, {}); });
+    EXPECT_GT(lost.sendTextMessage("back"), 0);
+    EXPECT_TRUE(
+        waitUntil([&] { return lost.log.has("text:back") && lost.log.lines.last() == "closed:1000,"; }));
 }

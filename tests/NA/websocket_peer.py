@@ -1,14 +1,14 @@
 #!/usr/bin/python3
 """A web-socket peer for the tests, on python3-websockets, listening on 127.0.0.1.
 
-Listens twice, in plain text and in TLS with a self-signed certificate for
-127.0.0.1 that it makes with openssl, and once more as a raw TCP peer that
-upgrades any request, says "hello" and drops the connection without a close
-frame. Prints the three base URLs on one line ("ws://127.0.0.1:PORT
-wss://127.0.0.1:PORT ws://127.0.0.1:PORT"). Exits when its standard input
-closes, so it never outlives the test that started it. The path of the request
-picks what it does:
-  /echo              sends every text message back
+Listens in plain text, in TLS with a self-signed certificate for 127.0.0.1
+that it makes with openssl, as a raw TCP peer that upgrades any request, says
+"hello" and drops the connection without a close frame, and in plain text on a
+port that the lines "stop" (drop its connections, stop listening) and "start"
+on its standard input turn off and on, answered "stopped" and "started".
+Prints the four base URLs on one line. Exits when its standard input closes,
+so it never outlives the test that started it. The path picks what it does:
+  /echo              sends every text and binary message back
   /close/CODE/REASON closes at once with CODE and the URL-decoded REASON
   /close             closes at once with a close frame that carries no code
   /frozen            says "frozen", then reads nothing more: no pong, no close
@@ -84,18 +84,39 @@ async def main():
 
     # Hanging and frozen connections would hold up a graceful shutdown: once the
     # test lets go, the peer just ends.
+    options = dict(process_request=process_request, ping_interval=None)
+    restartable = {"server": None, "port": 0}
+
+    async def command(line, announce=True):
+        if line == "stop" and restartable["server"]:
+            for connection in list(restartable["server"].websockets):
+                connection.transport.abort()
+            restartable["server"].close()
+            await restartable["server"].wait_closed()
+            restartable["server"] = None
+            print("stopped", flush=True)
+        elif line == "start" and not restartable["server"]:
+            restartable["server"] = await websockets.serve(handler, "127.0.0.1", restartable["port"], **options)
+            restartable["port"] = restartable["server"].sockets[0].getsockname()[1]
+            if announce:
+                print("started", flush=True)
+
+    # One command at a time: the test waits for each answer.
     def on_stdin():
-        if not sys.stdin.buffer.read1(4096):
+        line = sys.stdin.buffer.readline()
+        if not line:
             os._exit(0)
+        asyncio.ensure_future(command(line.decode().strip()))
 
     asyncio.get_running_loop().add_reader(sys.stdin, on_stdin)
-    options = dict(process_request=process_request, ping_interval=None)
+    await command("start", announce=False)
     async with websockets.serve(handler, "127.0.0.1", 0, **options) as plain, \
             websockets.serve(handler, "127.0.0.1", 0, ssl=context, **options) as secure:
         raw = await asyncio.start_server(drop, "127.0.0.1", 0)
         print(f"ws://127.0.0.1:{plain.sockets[0].getsockname()[1]}",
               f"wss://127.0.0.1:{secure.sockets[0].getsockname()[1]}",
-              f"ws://127.0.0.1:{raw.sockets[0].getsockname()[1]}", flush=True)
+              f"ws://127.0.0.1:{raw.sockets[0].getsockname()[1]}",
+              f"ws://127.0.0.1:{restartable['port']}", flush=True)
         await forever()
 
 

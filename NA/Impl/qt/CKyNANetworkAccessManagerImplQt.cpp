@@ -1,13 +1,17 @@
 #include "NA/Impl/CKyNANetworkAccessManagerImpl.h"
 
+#include "NA/CKyNAMultipartForm.h"
 #include "NA/CKyNANetworkAccessManager.h"
 #include "NA/CKyNANetworkReply.h"
 #include "NA/CKyNANetworkRequest.h"
+#include "NA/Impl/CKyNAMultipartFormImpl.h"
 #include "NA/Impl/CKyNANetworkReplyImpl.h"
 #include "NA/Impl/CKyNANetworkRequestImpl.h"
 #include "NA/Impl/qt/CKyNANetworkReplyTimeout.h"
 
+#include <QtCore/QJsonDocument>
 #include <QtNetwork/QAuthenticator>
+#include <QtNetwork/QHttpMultiPart>
 #include <QtNetwork/QNetworkAccessManager>
 #include <QtNetwork/QNetworkProxy>
 #include <QtNetwork/QNetworkProxyFactory>
@@ -70,10 +74,11 @@ bool IsIdempotent(const QNetworkReply& reply)
 
 // The one start path of every transfer; the six steps differ only in the
 // toolkit call they hand in, and in the upload a followed 307 or 308 sends
-// again.
+// again. An upload that can be read only once (`oneShot`) is never sent again.
 template <typename Send>
 CKyNANetworkReply* StartTransfer(const CKyUIObject* owner, const CKyNANetworkRequest& request, Send send,
-                                 const QByteArray* body = nullptr, QIODevice* device = nullptr)
+                                 const QByteArray* body = nullptr, QIODevice* device = nullptr,
+                                 bool oneShot = false)
 {
     auto* manager = qobject_cast<QNetworkAccessManager*>(owner->getHandle());
     QNetworkRequest* toolkitRequest = request.getHandle();
@@ -110,7 +115,7 @@ CKyNANetworkReply* StartTransfer(const CKyUIObject* owner, const CKyNANetworkReq
         redirects->allowInsecure = request.allowInsecureRedirects();
         if (body)
             redirects->body = *body;
-        redirects->fromDevice = device != nullptr;
+        redirects->fromDevice = device != nullptr || oneShot;
         redirects->device = device;
         redirects->devicePos = devicePos;
         redirects->guard = guard;
@@ -253,6 +258,45 @@ CKyNANetworkReply* CKyNANetworkAccessManagerImpl::PutImpl(const CKyNANetworkRequ
         owner(), request,
         [&data](QNetworkAccessManager& manager, const QNetworkRequest& r) { return manager.put(r, data); },
         &data);
+}
+
+CKyNANetworkReply* CKyNANetworkAccessManagerImpl::SendJsonImpl(const CKyNANetworkRequest& request,
+                                                               const QJsonDocument& json, bool put)
+{
+    const QByteArray body = json.toJson(QJsonDocument::Compact);
+    return StartTransfer(
+        owner(), request,
+        [&body, put](QNetworkAccessManager& manager, const QNetworkRequest& r) {
+            // On a copy: the caller's request stays as the caller made it.
+            QNetworkRequest typed = r;
+            if (!typed.hasRawHeader("Content-Type"))
+                typed.setRawHeader("Content-Type", "application/json");
+            return put ? manager.put(typed, body) : manager.post(typed, body);
+        },
+        &body);
+}
+
+CKyNANetworkReply* CKyNANetworkAccessManagerImpl::SendFormImpl(const CKyNANetworkRequest& request,
+                                                               const CKyNAMultipartForm& form, bool put)
+{
+    bool complete = true;
+    QHttpMultiPart* multiPart = form.m_impl->CreateMultiPartImpl(complete);
+    CKyNANetworkReply* result = StartTransfer(
+        owner(), request,
+        [multiPart, put](QNetworkAccessManager& manager, const QNetworkRequest& r) {
+            QNetworkReply* reply = put ? manager.put(r, multiPart) : manager.post(r, multiPart);
+            // Lives as long as the transfer reads from it, and goes with it.
+            multiPart->setParent(reply);
+            return reply;
+        },
+        nullptr, nullptr, true);
+    if (!multiPart->parent())
+        delete multiPart;
+    // A form is never sent short of a part. Queued, so that the caller has
+    // connected to the reply before it fails.
+    if (result && !complete)
+        QMetaObject::invokeMethod(result->getHandle(), "abort", Qt::QueuedConnection);
+    return result;
 }
 
 CKyNANetworkReply* CKyNANetworkAccessManagerImpl::DeleteResourceImpl(const CKyNANetworkRequest& request)

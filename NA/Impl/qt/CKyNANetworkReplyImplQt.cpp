@@ -274,6 +274,15 @@ QUrl CKyNANetworkReplyImpl::UrlImpl() const
     return reply ? reply->url() : QUrl();
 }
 
+QJsonDocument CKyNANetworkReplyImpl::ParseJsonImpl(const QByteArray& body, QJsonParseError* error)
+{
+    QJsonParseError parsed;
+    const QJsonDocument document = QJsonDocument::fromJson(body, &parsed);
+    if (error)
+        *error = parsed;
+    return document;
+}
+
 void CKyNANetworkReplyImpl::IgnoreSslErrorsImpl(const QList<QSslError>* errors)
 {
     QNetworkReply* reply = toolkitReply(owner());

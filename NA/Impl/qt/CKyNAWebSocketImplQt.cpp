@@ -26,12 +26,17 @@ QWebSocket* toolkitSocket(CKyUIObject* owner)
 }
 
 const char* const handshakeTimerName = "handshakeTimer";
+const char* const reconnectTimerName = "reconnectTimer";
+
+QTimer* namedTimer(CKyUIObject* owner, const char* name)
+{
+    QWebSocket* socket = toolkitSocket(owner);
+    return socket ? socket->findChild<QTimer*>(QLatin1String(name), Qt::FindDirectChildrenOnly) : nullptr;
+}
 
 QTimer* handshakeTimer(CKyUIObject* owner)
 {
-    QWebSocket* socket = toolkitSocket(owner);
-    return socket ? socket->findChild<QTimer*>(QLatin1String(handshakeTimerName), Qt::FindDirectChildrenOnly)
-                  : nullptr;
+    return namedTimer(owner, handshakeTimerName);
 }
 
 } // namespace
@@ -55,6 +60,12 @@ void CKyNAWebSocketImpl::CreateWebSocketImpl(const QString& origin, CKyNAWebSock
     m_connections << QObject::connect(
         socket, &QWebSocket::textMessageReceived, socket,
         [this](const QString& message) { OnTextMessageReceived(message); }, Qt::DirectConnection);
+    m_connections << QObject::connect(
+        socket, &QWebSocket::binaryMessageReceived, socket,
+        [this](const QByteArray& message) { OnBinaryMessageReceived(message); }, Qt::DirectConnection);
+    m_connections << QObject::connect(
+        socket, &QWebSocket::bytesWritten, socket, [this](qint64 bytes) { OnBytesWritten(bytes); },
+        Qt::DirectConnection);
     // Announced only when a close frame goes out, ours or the answer to the
     // peer's; a connection that merely drops passes through the closing state
     // without it.
@@ -119,6 +130,51 @@ void CKyNAWebSocketImpl::PingImpl(const QByteArray& payload)
     QWebSocket* socket = toolkitSocket(owner());
     if (socket && socket->state() == QAbstractSocket::ConnectedState)
         socket->ping(payload);
+}
+
+long long CKyNAWebSocketImpl::SendTextMessageImpl(const QString& message)
+{
+    QWebSocket* socket = toolkitSocket(owner());
+    return socket && socket->state() == QAbstractSocket::ConnectedState ? socket->sendTextMessage(message)
+                                                                        : -1;
+}
+
+long long CKyNAWebSocketImpl::SendBinaryMessageImpl(const QByteArray& data)
+{
+    QWebSocket* socket = toolkitSocket(owner());
+    return socket && socket->state() == QAbstractSocket::ConnectedState ? socket->sendBinaryMessage(data)
+                                                                        : -1;
+}
+
+void CKyNAWebSocketImpl::StartReconnectTimerImpl(int delayMs)
+{
+    QWebSocket* socket = toolkitSocket(owner());
+    if (!socket)
+        return;
+    // Made on the first reconnection only: a socket without the option
+    // carries no timer.
+    QTimer* timer = namedTimer(owner(), reconnectTimerName);
+    if (!timer) {
+        timer = new QTimer(socket);
+        timer->setObjectName(QLatin1String(reconnectTimerName));
+        timer->setSingleShot(true);
+        m_connections << QObject::connect(
+            timer, &QTimer::timeout, socket, [this] { OnReconnectTimeout(); }, Qt::DirectConnection);
+    }
+    timer->start(delayMs);
+}
+
+void CKyNAWebSocketImpl::StopReconnectTimerImpl()
+{
+    if (QTimer* timer = namedTimer(owner(), reconnectTimerName))
+        timer->stop();
+}
+
+void CKyNAWebSocketImpl::ReopenImpl()
+{
+    // The toolkit keeps the last request, and the TLS settings open() gave.
+    if (QWebSocket* socket = toolkitSocket(owner()))
+        socket->open(socket->request());
 }
 
 void CKyNAWebSocketImpl::IgnoreSslErrorsImpl()
