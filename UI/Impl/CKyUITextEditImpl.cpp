@@ -1,5 +1,7 @@
 #include "UI/Impl/CKyUITextEditImpl.h"
 
+#include "UI/Impl/KySettingsStore.h"
+
 #include "UI/CKyUIObject.h"
 
 CKyUITextEditImpl::CKyUITextEditImpl(CKyUIObject* owner)
@@ -125,4 +127,18 @@ void CKyUITextEditImpl::OnFocusLost()
 void CKyUITextEditImpl::OnReturnPressed()
 {
     returnPressed.Emit();
+}
+
+QVariant CKyUITextEditImpl::RememberedValue() const
+{
+    return m_text;
+}
+
+bool CKyUITextEditImpl::RestoreRememberedValue(const QVariant& value)
+{
+    QString text;
+    if (!KySettingsStore::ReadString(value, &text))
+        return false;
+    SetText(text);
+    return true;
 }

@@ -1,0 +1,298 @@
+#include "support/TestDialogs.h"
+
+#include "UI/CKyUICheckBox.h"
+#include "UI/CKyUIComboBox.h"
+#include "UI/CKyUIRadioButton.h"
+#include "UI/CKyUIRadioGroup.h"
+#include "UI/CKyUISettingsStore.h"
+#include "UI/CKyUISlider.h"
+#include "UI/CKyUITextEdit.h"
+#include "UI/Impl/qt/KyWindowPlacement.h"
+
+#include <QtCore/QFile>
+#include <QtCore/QProcess>
+#include <QtCore/QSettings>
+#include <QtCore/QTemporaryDir>
+#include <QtGui/QScreen>
+
+#include <cstdio>
+#include <tuple>
+
+void PrintTo(const QRect& rect, std::ostream* out)
+{
+    *out << rect.x() << "," << rect.y() << " " << rect.width() << "x" << rect.height();
+}
+
+namespace
+{
+// The values a run shows, as the getters answer them.
+struct Shown
+{
+    QString diameter;
+    QString unit;
+    bool through = false;
+    int side = -1;
+    int count = 0;
+    bool operator==(const Shown& other) const
+    {
+        return std::tie(diameter, unit, through, side, count) ==
+               std::tie(other.diameter, other.unit, other.through, other.side, other.count);
+    }
+};
+const Shown kDefaults{"10", "mm", false, 0, 5};
+
+// A dialog whose five controls remember, built with kDefaults.
+struct RememberingDialog : SampleDialog
+{
+    RememberingDialog()
+    {
+        setRememberKey("hole-pattern");
+        afterSetup = [this](SampleDialog&) {
+            diameter = new CKyUITextEdit(CKyUITextEdit::Small);
+            diameter->setText(kDefaults.diameter);
+            unit = new CKyUIComboBox;
+            unit->insertItems(0, {"mm", "cm", "in"});
+            unit->setCurrentIndex(0);
+            // A restore is a program change, made before the window shows.
+            unit->currentIndexChanged().connect([this](int) {
+                if (!running)
+                    restoredWhileShown |= widget()->isVisible(), ++restores;
+            });
+            through = new CKyUICheckBox;
+            side = new CKyUIRadioGroup;
+            for (int i = 0; i < 3; ++i)
+                side->addRadioButton(new CKyUIRadioButton);
+            static_cast<CKyUIRadioButton*>(side->children().at(0))->setChecked(true);
+            count = new CKyUISlider;
+            count->setRange(0, 20);
+            count->setValue(kDefaults.count);
+            const std::pair<CKyUIBaseView*, const char*> named[] = {{diameter, "diameter"},
+                                                                    {unit, "unit"},
+                                                                    {through, "through"},
+                                                                    {side, "side"},
+                                                                    {count, "count"}};
+            for (const auto& [view, name] : named) {
+                view->remember(name);
+                GetLayout()->addView(view);
+            }
+        };
+    }
+    Shown shown() const
+    {
+        return {diameter->text(), unit->currentText(), through->isChecked(), side->currentIndex(),
+                count->value()};
+    }
+    void show(const Shown& values)
+    {
+        diameter->setText(values.diameter);
+        unit->setCurrentIndex(unit->findText(values.unit));
+        through->setChecked(values.through);
+        for (int i = 0; i < 3; ++i)
+            static_cast<CKyUIRadioButton*>(side->children().at(i))->setChecked(i == values.side);
+        count->setValue(values.count);
+    }
+
+    CKyUITextEdit* diameter = nullptr;
+    CKyUIComboBox* unit = nullptr;
+    CKyUICheckBox* through = nullptr;
+    CKyUIRadioGroup* side = nullptr;
+    CKyUISlider* count = nullptr;
+    bool running = false;
+    bool restoredWhileShown = false;
+    int restores = 0;
+};
+
+// Runs a fresh dialog: returns what it showed, after `during` closed it.
+Shown RunOnce(const std::function<void(RememberingDialog&)>& during, const QString& key = "hole-pattern")
+{
+    RememberingDialog dialog;
+    dialog.setRememberKey(key);
+    Shown seen;
+    RunModally(dialog, [&](SampleDialog&) {
+        dialog.running = true;
+        seen = dialog.shown();
+        during(dialog);
+    });
+    EXPECT_FALSE(dialog.restoredWhileShown);
+    return seen;
+}
+
+class RememberTest : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(dir.isValid());
+        CKyUISettingsStore::setFile(file);
+    }
+    void TearDown() override
+    {
+        CKyUISettingsStore::setFile(QString());
+        CKyUISettingsStore::setHostFile(QString());
+    }
+    void Store(const QVariantMap& entries)
+    {
+        QSettings settings(file, QSettings::IniFormat);
+        for (auto it = entries.cbegin(); it != entries.cend(); ++it)
+            settings.setValue("hole-pattern/" + it.key(), it.value());
+    }
+
+    QTemporaryDir dir;
+    const QString file = dir.filePath("plugin.ini");
+};
+} // namespace
+
+// Accept saves, Cancel and Escape do not, the next run restores; a dialog
+// without a key touches no file; reset forgets.
+TEST_F(RememberTest, AcceptSavesCancelDoesNotAndReopenRestores)
+{
+    const Shown chosen{"12.5, deep", "in", true, 2, 17};
+    const Shown other{"3", "cm", false, 1, 0};
+    RunOnce([&](RememberingDialog& d) { d.show(chosen), d.accept(); }, QString());
+    EXPECT_FALSE(QFile::exists(file));
+
+    EXPECT_EQ(RunOnce([&](RememberingDialog& d) { d.show(chosen), d.accept(); }), kDefaults);
+    EXPECT_EQ(RunOnce([&](RememberingDialog& d) {
+                  EXPECT_EQ(d.restores, 1);
+                  d.show(other), d.reject();
+              }),
+              chosen);
+    EXPECT_EQ(RunOnce([&](RememberingDialog& d) {
+                  d.show(other);
+                  QTest::keyClick(d.widget(), Qt::Key_Escape);
+              }),
+              chosen);
+    EXPECT_EQ(RunOnce([&](RememberingDialog& d) { d.resetRemembered(), d.done(0); }), chosen);
+    EXPECT_EQ(RunOnce([](RememberingDialog& d) { d.accept(); }), kDefaults);
+
+    // The host's file wins over the plug-in's.
+    CKyUISettingsStore::setHostFile(dir.filePath("host.ini"));
+    EXPECT_EQ(CKyUISettingsStore::location(), dir.filePath("host.ini"));
+    RunOnce([&](RememberingDialog& d) { d.show(other), d.accept(); });
+    EXPECT_EQ(QSettings(dir.filePath("host.ini"), QSettings::IniFormat).value("hole-pattern/values/diameter"),
+              "3");
+    EXPECT_EQ(QSettings(file, QSettings::IniFormat).value("hole-pattern/values/diameter"), "10");
+}
+
+// A value a control cannot take leaves it at its default; so does a damaged
+// file, which a later accept still writes over.
+TEST_F(RememberTest, ForeignValuesAndADamagedFileLeaveTheDefaults)
+{
+    const QVariantMap foreign[] = {
+        {{"values/diameter", QStringList{"a", "b"}},
+         {"values/unit", "mm"},
+         {"values/through", "yes"},
+         {"values/side", 3},
+         {"values/count", 21},
+         {"window/width", "wide"}},
+        {{"values/unit", QStringList{"ft", "7"}},
+         {"values/through", 1},
+         {"values/side", "-1"},
+         {"values/count", "five"},
+         {"values/diameter", QVariant()}},
+    };
+    for (const QVariantMap& entries : foreign) {
+        Store(entries);
+        EXPECT_EQ(RunOnce([](RememberingDialog& d) { d.reject(); }), kDefaults);
+        QFile::remove(file);
+    }
+    static const char damage[] = "[hole-pattern]\nvalues/count=@Variant(\0\0\0\x7f\xff\xff\xff\xff\x01\n"
+                                 "values/side=@Invalid(\n\xff\xfe[[[=\\x\nvalues\\through=\"true\n";
+    QFile damaged(file);
+    ASSERT_TRUE(damaged.open(QIODevice::WriteOnly));
+    damaged.write(damage, sizeof damage - 1);
+    damaged.close();
+    const Shown other{"3", "cm", true, 1, 0};
+    EXPECT_EQ(RunOnce([&](RememberingDialog& d) { d.show(other), d.accept(); }), kDefaults);
+    EXPECT_EQ(RunOnce([](RememberingDialog& d) { d.reject(); }), other);
+}
+
+// The window comes back where it was closed, or, when that place is far
+// outside every screen, inside the nearest screen's available area.
+TEST_F(RememberTest, TheWindowReturnsToItsPlaceClampedToAScreen)
+{
+    const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
+    RunOnce([](RememberingDialog& d) {
+        d.widget()->move(37, 41);
+        d.widget()->resize(350, 250);
+        d.reject();
+    });
+    RunOnce([](RememberingDialog& d) {
+        EXPECT_EQ(d.widget()->pos(), QPoint(37, 41));
+        EXPECT_EQ(d.widget()->size(), QSize(350, 250));
+        d.reject();
+    });
+    Store({{"window/x", 50000},
+           {"window/y", -40000},
+           {"window/width", 300},
+           {"window/height", 100000},
+           {"window/screen", "unplugged"}});
+    RunOnce([&](RememberingDialog& d) {
+        EXPECT_TRUE(area.contains(d.widget()->pos()));
+        EXPECT_EQ(d.widget()->size(), QSize(300, area.height()));
+        d.reject();
+    });
+}
+
+TEST(WindowPlacementTest, PlacesOnTheNamedOrNearestScreenInsideItsArea)
+{
+    const QVector<KyWindowPlacement::Screen> screens = {{"left", QRect(0, 0, 1920, 1040)},
+                                                        {"right", QRect(1920, 0, 1280, 760)}};
+    const struct
+    {
+        QRect stored;
+        QString screen;
+        QSize minimum;
+        QRect placed;
+    } rows[] = {
+        {{100, 100, 400, 300}, "left", {}, {100, 100, 400, 300}},            // as it was
+        {{3000, 700, 400, 300}, "right", {}, {2800, 460, 400, 300}},         // lower resolution
+        {{5000, 100, 400, 300}, "gone", {}, {2800, 100, 400, 300}},          // nearest screen
+        {{-900, 500, 400, 300}, "gone", {}, {0, 500, 400, 300}},             // left of everything
+        {{2000, 10, 2000, 2000}, "right", {}, {1920, 0, 1280, 760}},         // shrunk to fit
+        {{2000, 10, 200, 200}, "right", {1500, 100}, {1920, 10, 1500, 200}}, // minimum wins
+        {{100, 100, 400, 300}, "right", {}, {1920, 100, 400, 300}},          // screen by name
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(KyWindowPlacement::Place(row.stored, row.screen, screens, row.minimum), row.placed);
+    EXPECT_EQ(KyWindowPlacement::Place({5, 5, 10, 10}, "x", {}, {}), QRect(5, 5, 10, 10));
+}
+
+// Run by the next test only: writes ever larger versions of one entry until
+// it is killed.
+TEST(RememberStoreChild, DISABLED_WritesUntilKilled)
+{
+    QSettings settings(QString::fromLocal8Bit(qgetenv("COMMONUI_STORE_FILE")), QSettings::IniFormat);
+    for (int version = 1;; ++version) {
+        settings.setValue("blob", QString(4 << 20, QChar('a' + version % 26)));
+        settings.setValue("version", version);
+        settings.sync();
+        std::printf("written %d\n", version);
+        std::fflush(stdout);
+    }
+}
+
+// A writer killed in the middle leaves a whole version behind: the file is
+// replaced in one step, never rewritten in place.
+TEST_F(RememberTest, AWriterKilledWhileWritingLeavesAWholeVersion)
+{
+    QSettings(file, QSettings::IniFormat).setValue("version", 0);
+    QProcess writer;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("COMMONUI_STORE_FILE", file);
+    writer.setProcessEnvironment(environment);
+    writer.start(QCoreApplication::applicationFilePath(),
+                 {"--gtest_also_run_disabled_tests", "--gtest_filter=RememberStoreChild.*"});
+    QByteArray written;
+    while (written.count("written") < 3 && writer.waitForReadyRead(20000))
+        written += writer.readAllStandardOutput();
+    ASSERT_GE(written.count("written"), 3) << written.constData();
+    writer.kill();
+    ASSERT_TRUE(writer.waitForFinished(20000));
+
+    QSettings settings(file, QSettings::IniFormat);
+    EXPECT_EQ(settings.status(), QSettings::NoError);
+    const int version = settings.value("version").toInt();
+    EXPECT_GE(version, 3);
+    EXPECT_EQ(settings.value("blob").toString(), QString(4 << 20, QChar('a' + version % 26)));
+}
