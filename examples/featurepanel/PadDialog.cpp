@@ -88,7 +88,7 @@ void PadDialog::SetupUI()
     buttons->rejected().connect([this]() { reject(); });
 
     ShowRowsFor(mode->currentIndex());
-    //! [remember controls]
+    //! [remember-controls]
     // Given back after SetupUI(), through the setters: the mode's
     // currentIndexChanged shows the rows again.
     mode->remember("mode");
@@ -96,7 +96,7 @@ void PadDialog::SetupUI()
     secondLength->remember("second-length");
     symmetric->remember("symmetric");
     reversed->remember("reversed");
-    //! [remember controls]
+    //! [remember-controls]
 }
 
 void PadDialog::ShowRowsFor(int modeIndex)
