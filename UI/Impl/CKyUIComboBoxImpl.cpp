@@ -1,8 +1,7 @@
 #include "UI/Impl/CKyUIComboBoxImpl.h"
 
-#include "UI/Impl/KySettingsStore.h"
-
 #include "UI/CKyUIObject.h"
+#include "UI/Impl/KySettingsStore.h"
 
 #include <QtGui/QValidator>
 

@@ -1,9 +1,8 @@
 #include "UI/Impl/CKyUIRadioGroupImpl.h"
 
-#include "UI/Impl/KySettingsStore.h"
-
 #include "UI/CKyUIGroupBox.h"
 #include "UI/CKyUIRadioButton.h"
+#include "UI/Impl/KySettingsStore.h"
 
 CKyUIRadioGroupImpl::CKyUIRadioGroupImpl(CKyUIObject* owner)
     : CKyUIBaseViewImpl(owner)

@@ -1,8 +1,7 @@
 #include "UI/Impl/CKyUITextEditImpl.h"
 
-#include "UI/Impl/KySettingsStore.h"
-
 #include "UI/CKyUIObject.h"
+#include "UI/Impl/KySettingsStore.h"
 
 CKyUITextEditImpl::CKyUITextEditImpl(CKyUIObject* owner)
     : CKyUIBaseViewImpl(owner)
