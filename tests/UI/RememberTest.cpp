@@ -222,28 +222,27 @@ TEST(WindowPlacementTest, PlacesOnTheNamedOrNearestScreenInsideItsArea)
     EXPECT_TRUE(KyWindowPlacement::Place({5, 5, 10, 10}, "x", {}, {}) == QRect(5, 5, 10, 10));
 }
 
-// Run by the next test only: writes ever larger versions of one entry until
-// it is killed.
-TEST(RememberStoreChild, DISABLED_WritesUntilKilled)
-{
-    QSettings settings(QString::fromLocal8Bit(qgetenv("COMMONUI_STORE_FILE")), QSettings::IniFormat);
-    for (int version = 1;; ++version) {
-        settings.setValue("blob", QString(4 << 20, QChar('a' + version % 26)));
-        settings.setValue("version", version);
-        settings.sync();
-        std::printf("written %d\n", version);
-        std::fflush(stdout);
-    }
-}
-
 // A writer killed in the middle leaves a whole version behind: the file is
-// replaced in one step, never rewritten in place.
+// replaced in one step, never rewritten in place. The writer is this test,
+// started again with the file to write until it is killed.
 TEST_F(RememberTest, AWriterKilledWhileWritingLeavesAWholeVersion)
 {
+    if (qEnvironmentVariableIsSet("COMMONUI_WRITE_UNTIL_KILLED")) {
+        QSettings settings(QString::fromLocal8Bit(qgetenv("COMMONUI_WRITE_UNTIL_KILLED")),
+                           QSettings::IniFormat);
+        for (int version = 1;; ++version) {
+            settings.setValue("blob", QString(4 << 20, QChar('a' + version % 26)));
+            settings.setValue("version", version);
+            settings.sync();
+            std::printf("written %d\n", version);
+            std::fflush(stdout);
+        }
+    }
     QProcess writer;
-    qputenv("COMMONUI_STORE_FILE", file.toLocal8Bit());
-    writer.start(QCoreApplication::applicationFilePath(),
-                 {"--gtest_also_run_disabled_tests", "--gtest_filter=RememberStoreChild.*"});
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("COMMONUI_WRITE_UNTIL_KILLED", file);
+    writer.setProcessEnvironment(environment);
+    writer.start(QCoreApplication::applicationFilePath(), {"--gtest_filter=RememberTest.AWriterKilled*"});
     QByteArray written;
     while (written.count("written") < 3 && writer.waitForReadyRead(20000))
         written += writer.readAllStandardOutput();
