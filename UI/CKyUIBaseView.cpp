@@ -241,3 +241,14 @@ void CKyUIBaseView::resizeEvent(CKyUIResizeEvent*) {}
 void CKyUIBaseView::focusInEvent(CKyUIFocusEvent*) {}
 
 void CKyUIBaseView::focusOutEvent(CKyUIFocusEvent*) {}
+
+void CKyUIBaseView::remember(const QString& name)
+{
+    Forward(implAs<CKyUIBaseViewImpl>(), &CKyUIBaseViewImpl::SetRememberName, name);
+}
+
+QString CKyUIBaseView::rememberName() const
+{
+    const CKyUIBaseViewImpl* viewImpl = implAs<CKyUIBaseViewImpl>();
+    return viewImpl ? viewImpl->RememberName() : QString();
+}

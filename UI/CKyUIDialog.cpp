@@ -29,6 +29,21 @@ bool CKyUIDialog::defaultReleasesToolkitDialog()
     return CKyUIDialogImpl::DefaultReleasesToolkitDialog();
 }
 
+void CKyUIDialog::setRememberKey(const QString& key)
+{
+    implAs<CKyUIDialogImpl>()->SetRememberKey(key);
+}
+
+QString CKyUIDialog::rememberKey() const
+{
+    return implAs<CKyUIDialogImpl>()->RememberKey();
+}
+
+void CKyUIDialog::resetRemembered()
+{
+    implAs<CKyUIDialogImpl>()->ResetRemembered();
+}
+
 int CKyUIDialog::exec(bool modal)
 {
     return implAs<CKyUIDialogImpl>()->Exec(modal);

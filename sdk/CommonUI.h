@@ -32,6 +32,7 @@
 #include "UI/CKyUIRadioButton.h"
 #include "UI/CKyUIRadioGroup.h"
 #include "UI/CKyUIScrollableArea.h"
+#include "UI/CKyUISettingsStore.h"
 #include "UI/CKyUISignal.h"
 #include "UI/CKyUISlider.h"
 #include "UI/CKyUIStackedWidget.h"

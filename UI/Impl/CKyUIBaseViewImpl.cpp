@@ -21,6 +21,16 @@ void CKyUIBaseViewImpl::CreateFrontendControl()
         owner()->setHandle(KyBaseViewImpl::CreateFrontendControl(className, owner()));
 }
 
+QVariant CKyUIBaseViewImpl::RememberedValue() const
+{
+    return QVariant();
+}
+
+bool CKyUIBaseViewImpl::RestoreRememberedValue(const QVariant&)
+{
+    return false;
+}
+
 void CKyUIBaseViewImpl::AddViewImpl(CKyUIBaseView*, float) {}
 
 void CKyUIBaseViewImpl::InsertViewImpl(CKyUIBaseView*, int, float) {}

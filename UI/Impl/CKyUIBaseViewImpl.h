@@ -33,6 +33,18 @@ public:
     // first.
     void SetInteractiveImpl(bool interactive) override;
 
+    // A dialog with a remember key saves the control's value under its name
+    // when it is accepted and gives it back before its next run shows.
+    // RememberedValue() answers from the stored state, what the getters say;
+    // invalid means nothing to keep. RestoreRememberedValue() checks type and
+    // range, goes through the control's own setter (so its signals fire as for
+    // a program change) and answers false, changing nothing, for a value it
+    // cannot take. The base keeps nothing; each control overrides both.
+    virtual QVariant RememberedValue() const;
+    virtual bool RestoreRememberedValue(const QVariant& value);
+    void SetRememberName(const QString& name) { m_rememberName = name; }
+    const QString& RememberName() const { return m_rememberName; }
+
     // Bookkeeping; each setter stores first, then calls its toolkit step.
     void SetVisible(bool visible);
     bool IsVisible() const { return m_visible; }
@@ -81,6 +93,7 @@ public:
     static QWidget* WidgetOf(const CKyUIObject* object);
 
 private:
+    QString m_rememberName;
     QPalette m_palette;
     bool m_visible = false;
     bool m_enabled = true;

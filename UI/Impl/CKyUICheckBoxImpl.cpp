@@ -1,5 +1,7 @@
 #include "UI/Impl/CKyUICheckBoxImpl.h"
 
+#include "UI/Impl/KySettingsStore.h"
+
 CKyUICheckBoxImpl::CKyUICheckBoxImpl(CKyUIObject* owner)
     : CKyUIBaseViewImpl(owner)
     , stateChanged(owner)
@@ -63,4 +65,18 @@ void CKyUICheckBoxImpl::EmitState(bool checked)
 {
     // 1 and 0, not the toolkit's check-state numbering.
     EmitInOrder([&] { stateChanged.Emit(checked ? 1 : 0); }, [&] { toggled.Emit(checked); });
+}
+
+QVariant CKyUICheckBoxImpl::RememberedValue() const
+{
+    return m_checked;
+}
+
+bool CKyUICheckBoxImpl::RestoreRememberedValue(const QVariant& value)
+{
+    bool checked = false;
+    if (!KySettingsStore::ReadBool(value, &checked))
+        return false;
+    SetChecked(checked);
+    return true;
 }

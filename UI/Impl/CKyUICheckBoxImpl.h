@@ -16,6 +16,8 @@ public:
     const QString& Text() const { return m_text; }
     void SetChecked(bool checked);
     bool IsChecked() const { return m_checked; }
+    QVariant RememberedValue() const override;
+    bool RestoreRememberedValue(const QVariant& value) override;
     // Kept always, shown only while the box follows its user.
     void SetTextSize(float size);
     void SetResourceIcon(const QString& name);

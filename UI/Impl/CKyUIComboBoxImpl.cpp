@@ -1,6 +1,7 @@
 #include "UI/Impl/CKyUIComboBoxImpl.h"
 
 #include "UI/CKyUIObject.h"
+#include "UI/Impl/KySettingsStore.h"
 
 #include <QtGui/QValidator>
 
@@ -249,4 +250,24 @@ void CKyUIComboBoxImpl::OnRowRenamed(int index, const QString& text)
 int CKyUIComboBoxImpl::InsertPosition(int index) const
 {
     return std::max(0, std::min(index, int(m_items.size())));
+}
+
+QVariant CKyUIComboBoxImpl::RememberedValue() const
+{
+    // The text first: the items of the next run may come in another order.
+    if (!InRange(m_currentIndex))
+        return QVariant();
+    return QStringList{m_currentText, QString::number(m_currentIndex)};
+}
+
+bool CKyUIComboBoxImpl::RestoreRememberedValue(const QVariant& value)
+{
+    QStringList stored;
+    if (!KySettingsStore::ReadStringList(value, &stored) || stored.size() != 2)
+        return false;
+    int index = FindText(stored.at(0), Qt::MatchExactly | Qt::MatchCaseSensitive);
+    if (index < 0 && !KySettingsStore::ReadInt(stored.at(1), &index, 0, m_items.size() - 1))
+        return false;
+    SetCurrentIndex(index);
+    return true;
 }

@@ -61,6 +61,8 @@ public:
     void SetInsertPolicy(int policy);
     void SetValidator(const QValidator* validator);
 
+    QVariant RememberedValue() const override;
+    bool RestoreRememberedValue(const QVariant& value) override;
     void SetInteractiveImpl(bool interactive) override;
 
     // What a change in the widget would mean to the model. Deliberately left

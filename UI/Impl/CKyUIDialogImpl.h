@@ -8,6 +8,7 @@ class CKyUIShowEvent;
 class CKyUIHideEvent;
 class CKyUIVerticalLayout;
 class QObject;
+class QRect;
 class QVBoxLayout;
 
 // Drives one plain QDialog: the theme, the root layout, the result code and
@@ -37,6 +38,9 @@ public:
     bool ReleasesToolkitDialog() const { return m_releasesToolkitDialog; }
     static void SetDefaultReleasesToolkitDialog(bool release);
     static bool DefaultReleasesToolkitDialog();
+    void SetRememberKey(const QString& key) { m_rememberKey = key; }
+    const QString& RememberKey() const { return m_rememberKey; }
+    void ResetRemembered();
     // Hands the switch on to the dialog's tree: its root layout and children.
     void SetInteractiveImpl(bool interactive) override;
 
@@ -65,8 +69,19 @@ public:
     void HideImpl();
     void SetVisibleImpl(bool visible);
     void SetWindowTitleImpl(const QString& title);
+    // The window's place as stored: the frame's top-left corner, the inner
+    // size and the name of the screen it is on. False without a window.
+    bool WindowPlaceImpl(QRect* place, QString* screen) const;
+    // Puts the window where it was, moved onto a screen that still exists.
+    void RestoreWindowPlaceImpl(const QRect& place, const QString& screen);
 
 private:
+    // Gives the remembered values and the window's place back before the run
+    // shows; answers whether the dialog survived the slots that this runs.
+    bool RestoreRemembered();
+    // Once per run, as the dialog closes: the window's place always, the
+    // controls' values only when accepted (result 1).
+    void RememberOnClose(int result);
     // Tells the active document's host object whether a modal dialog runs;
     // without a host object nobody is told.
     static void NotifyHost(bool running);
@@ -87,6 +102,9 @@ private:
     bool m_releasesToolkitDialog;
     bool m_hostToldRunning = false;
     bool m_reportingEnd = false;
+    QString m_rememberKey;
+    // Set while a run with a remember key has not closed yet.
+    bool m_rememberRun = false;
     // Points into a running ExecImpl: set there when the dialog object goes
     // during the run and the QDialog is to be deleted once the run is over.
     bool* m_releaseAfterRun = nullptr;

@@ -2,6 +2,7 @@
 
 #include "UI/CKyUIGroupBox.h"
 #include "UI/CKyUIRadioButton.h"
+#include "UI/Impl/KySettingsStore.h"
 
 CKyUIRadioGroupImpl::CKyUIRadioGroupImpl(CKyUIObject* owner)
     : CKyUIBaseViewImpl(owner)
@@ -101,3 +102,24 @@ void CKyUIRadioGroupImpl::SetTitleImpl(const QString& title)
 void CKyUIRadioGroupImpl::SetTextImpl(int, const QString&) {}
 
 void CKyUIRadioGroupImpl::SetCurrentImpl(int) {}
+
+QVariant CKyUIRadioGroupImpl::RememberedValue() const
+{
+    const int index = CurrentIndex();
+    return index < 0 ? QVariant() : QVariant(index);
+}
+
+bool CKyUIRadioGroupImpl::RestoreRememberedValue(const QVariant& value)
+{
+    int index = -1;
+    if (!KySettingsStore::ReadInt(value, &index, 0, m_buttons.size() - 1) || !Holds(m_buttons.at(index)))
+        return false;
+    // As a program does it: the chosen button checked, every other unchecked.
+    const Lifetime lifetime = GetLifetime();
+    const QList<CKyUIRadioButton*> buttons = m_buttons;
+    for (int i = 0; i < buttons.size() && lifetime.Alive(); ++i) {
+        if (Holds(buttons.at(i)))
+            buttons.at(i)->setChecked(i == index);
+    }
+    return true;
+}

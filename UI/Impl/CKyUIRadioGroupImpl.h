@@ -35,6 +35,8 @@ public:
 
     // A button of an interactive group became checked on screen.
     void OnButtonChecked(CKyUIRadioButton* checked);
+    QVariant RememberedValue() const override;
+    bool RestoreRememberedValue(const QVariant& value) override;
     void SetInteractiveImpl(bool interactive) override;
 
     void SetTitleImpl(const QString& title);

@@ -25,6 +25,8 @@ public:
     int Minimum() const { return m_minimum; }
     int Maximum() const { return m_maximum; }
 
+    QVariant RememberedValue() const override;
+    bool RestoreRememberedValue(const QVariant& value) override;
     void SetValueImpl(int value);
     void SetMinimumImpl(int minimum);
     void SetMaximumImpl(int maximum);

@@ -1,6 +1,7 @@
 #include "UI/Impl/CKyUITextEditImpl.h"
 
 #include "UI/CKyUIObject.h"
+#include "UI/Impl/KySettingsStore.h"
 
 CKyUITextEditImpl::CKyUITextEditImpl(CKyUIObject* owner)
     : CKyUIBaseViewImpl(owner)
@@ -125,4 +126,18 @@ void CKyUITextEditImpl::OnFocusLost()
 void CKyUITextEditImpl::OnReturnPressed()
 {
     returnPressed.Emit();
+}
+
+QVariant CKyUITextEditImpl::RememberedValue() const
+{
+    return m_text;
+}
+
+bool CKyUITextEditImpl::RestoreRememberedValue(const QVariant& value)
+{
+    QString text;
+    if (!KySettingsStore::ReadString(value, &text))
+        return false;
+    SetText(text);
+    return true;
 }

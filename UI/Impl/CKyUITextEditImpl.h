@@ -19,6 +19,8 @@ public:
 
     void SetText(const QString& text);
     const QString& Text() const { return m_text; }
+    QVariant RememberedValue() const override;
+    bool RestoreRememberedValue(const QVariant& value) override;
     void SetPlaceholderText(const QString& text);
     const QString& PlaceholderText() const { return m_placeholderText; }
     void SetInputMask(const QString& mask);

@@ -46,6 +46,11 @@ PadDialog::PadDialog()
 {
     // The one call that makes the whole panel answer its user.
     setInteractive(true);
+    //! [remember]
+    // Opens where and as the user left it: values kept on OK, the window's
+    // place on every close.
+    setRememberKey("pad");
+    //! [remember]
 }
 
 void PadDialog::SetupUI()
@@ -83,6 +88,15 @@ void PadDialog::SetupUI()
     buttons->rejected().connect([this]() { reject(); });
 
     ShowRowsFor(mode->currentIndex());
+    //! [remember-controls]
+    // Given back after SetupUI(), through the setters: the mode's
+    // currentIndexChanged shows the rows again.
+    mode->remember("mode");
+    length->remember("length");
+    secondLength->remember("second-length");
+    symmetric->remember("symmetric");
+    reversed->remember("reversed");
+    //! [remember-controls]
 }
 
 void PadDialog::ShowRowsFor(int modeIndex)

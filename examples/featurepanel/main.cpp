@@ -1,16 +1,19 @@
 // Runs the pad feature panel. With a display it runs until the user closes it
 // and prints the values chosen. Without one it plays the user itself with
 // real input events (choose "Two dimensions", type both lengths, tick
-// "Reversed", press OK) and fails unless the values read back are those.
+// "Reversed", press OK) and fails unless the values read back are those, and
+// unless a second run opens with them.
 
 #include "PadDialog.h"
 
 #include "UI/CKyUICheckBox.h"
 #include "UI/CKyUIComboBox.h"
 #include "UI/CKyUIDialogButtonBox.h"
+#include "UI/CKyUISettingsStore.h"
 #include "UI/CKyUITextEdit.h"
 #include "UI/CKyUITimer.h"
 
+#include <QtCore/QTemporaryDir>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QDialogButtonBox>
@@ -56,6 +59,12 @@ int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
     const bool unattended = QGuiApplication::platformName() == QLatin1String("offscreen");
+    // Played without a display, the panel starts afresh in a file of its own.
+    QTemporaryDir scratch;
+    if (unattended)
+        CKyUISettingsStore::setFile(scratch.filePath("featurepanel.ini"));
+    else
+        CKyUISettingsStore::setApplication("CommonUI examples", "featurepanel");
 
     PadDialog dialog;
     if (unattended)
@@ -71,5 +80,17 @@ int main(int argc, char** argv)
     const bool asPlayed = result == 1 && values.mode == QLatin1String("Two dimensions") &&
                           values.length == 25 && values.secondLength == 7.5 && values.reversed &&
                           !values.symmetric && !dialog.symmetric->isVisible();
-    return asPlayed ? 0 : 1;
+
+    // The next run opens with what the user accepted; Cancel keeps it.
+    PadDialog again;
+    PadDialog::Values reopened;
+    CKyUITimer::singleShot(0, [&again, &reopened]() {
+        reopened = again.values();
+        again.reject();
+    });
+    const bool restored = again.exec() == 0 && reopened.mode == values.mode &&
+                          reopened.length == values.length && reopened.secondLength == values.secondLength &&
+                          reopened.reversed && !again.symmetric->isVisible();
+    std::printf("featurepanel: reopened with %s, length %g\n", qPrintable(reopened.mode), reopened.length);
+    return asPlayed && restored ? 0 : 1;
 }

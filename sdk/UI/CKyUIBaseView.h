@@ -137,6 +137,19 @@ public:
     /// Accepted and ignored.
     void removeStyleClass(const QString& name, bool value);
 
+    /// Keeps this control's value under @p name, inside a dialog that has a
+    /// remember key (CKyUIDialog::setRememberKey()): saved when the dialog is
+    /// accepted, given back through the control's own setter (its signals fire
+    /// as for a program change) before the dialog's next run shows. Text edits,
+    /// combo boxes (by text, else by index), check boxes, radio groups and
+    /// sliders keep their value; other views ignore it. A stored value the
+    /// control cannot take (another type, out of range) is ignored and the
+    /// control keeps its default. Names are unique within a dialog; an empty
+    /// name stops remembering. See \ref remember.
+    void remember(const QString& name);
+    /// The name given to remember(), or an empty string.
+    QString rememberName() const;
+
     /// Event handler for subclasses; does nothing here. The library calls the
     /// handlers only for the dock widget's content.
     virtual void showEvent(CKyUIShowEvent* event);

@@ -76,6 +76,25 @@ public:
     /// The value new dialogs take for releasesToolkitDialog().
     static bool defaultReleasesToolkitDialog();
 
+    /// Makes the dialog remember, under @p key in the store
+    /// (CKyUISettingsStore), its window's size, position and screen, and the
+    /// values of the controls given a name with CKyUIBaseView::remember().
+    /// Set it before exec(). exec() gives them back after SetupUI() and before
+    /// the window shows: the controls through their own setters, the window
+    /// on the screen it was on, or, when that screen is gone, on the nearest
+    /// one, moved and shrunk to fit its available area. When the run closes,
+    /// the window's place is saved whatever the result; the controls' values
+    /// only when the result is 1 (accept(), done(1)), never on Cancel or
+    /// Escape. Empty by default: the dialog then reads and writes nothing. See
+    /// \ref remember.
+    void setRememberKey(const QString& key);
+    /// The key given to setRememberKey(), or an empty string.
+    QString rememberKey() const;
+    /// Forgets what the store keeps under rememberKey(): the window's place and
+    /// the controls' values. The next run opens with the defaults; a run going
+    /// on now saves again when it closes. Does nothing without a key.
+    void resetRemembered();
+
     /// Called by every exec(), after the theme and the root layout are in place:
     /// add views to GetLayout(), connect to their signals and, last, create a
     /// CKyUIDialogButtonBox so that it lands at the bottom.

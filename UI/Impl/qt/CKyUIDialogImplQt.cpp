@@ -3,6 +3,7 @@
 #include "UI/CKyUIDialog.h"
 #include "UI/CKyUIStyle.h"
 #include "UI/CKyUIVerticalLayout.h"
+#include "UI/Impl/qt/KyWindowPlacement.h"
 
 #include <QtCore/QEvent>
 #include <QtCore/QPointer>
@@ -155,4 +156,30 @@ void CKyUIDialogImpl::SetWindowTitleImpl(const QString& title)
 {
     if (QDialog* dialog = DialogOf(owner()))
         dialog->setWindowTitle(title);
+}
+
+bool CKyUIDialogImpl::WindowPlaceImpl(QRect* place, QString* screen) const
+{
+    QDialog* dialog = DialogOf(owner());
+    if (!dialog)
+        return false;
+    *place = QRect(dialog->pos(), dialog->size());
+    const QVector<KyWindowPlacement::Screen> screens = KyWindowPlacement::Screens();
+    const KyWindowPlacement::Screen* on =
+        KyWindowPlacement::Nearest(dialog->frameGeometry().center(), screens);
+    *screen = on ? on->name : QString();
+    return true;
+}
+
+void CKyUIDialogImpl::RestoreWindowPlaceImpl(const QRect& place, const QString& screen)
+{
+    QDialog* dialog = DialogOf(owner());
+    if (!dialog)
+        return;
+    // Before the window shows: a window moved and resized by the program is
+    // neither centred nor sized by the toolkit.
+    const QRect placed =
+        KyWindowPlacement::Place(place, screen, KyWindowPlacement::Screens(), dialog->minimumSizeHint());
+    dialog->resize(placed.size());
+    dialog->move(placed.topLeft());
 }

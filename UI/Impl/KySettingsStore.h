@@ -1,0 +1,46 @@
+#pragma once
+
+#include <climits>
+
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+#include <QtCore/QVariant>
+#include <QtCore/QVariantMap>
+
+// The store of dialogs that remember: which one is chosen, and the reading and
+// writing of one dialog's entries. Every entry of a dialog lives below its
+// remember key.
+namespace KySettingsStore
+{
+// Who named the store decides which one is used: the host's file, else the
+// plug-in's file or application, else the default.
+struct Choice
+{
+    QString file; // an INI file when not empty
+    QString organization;
+    QString application;
+};
+
+void SetApplication(const QString& organization, const QString& application);
+void SetFile(const QString& path);
+void SetHostFile(const QString& path);
+const QString& HostFile();
+Choice Chosen();
+
+// The values below a stored entry, read strictly: anything else (another
+// type, text that is no number, out of the given range) answers false and
+// leaves the output alone. A foreign or damaged file may hold any of them.
+bool ReadBool(const QVariant& value, bool* out);
+bool ReadInt(const QVariant& value, int* out, int minimum = INT_MIN, int maximum = INT_MAX);
+bool ReadString(const QVariant& value, QString* out);
+bool ReadStringList(const QVariant& value, QStringList* out);
+
+// Toolkit steps.
+QString LocationImpl();
+// Every entry below the group, by its key relative to the group.
+QVariantMap ReadImpl(const QString& group);
+// Writes the entries below the group in one go; an invalid value removes
+// its entry.
+void WriteImpl(const QString& group, const QVariantMap& entries);
+void RemoveImpl(const QString& group);
+} // namespace KySettingsStore
