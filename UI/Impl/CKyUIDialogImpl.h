@@ -67,9 +67,6 @@ public:
     void SetWindowTitleImpl(const QString& title);
 
 private:
-    // Tells the active document's host object whether a modal dialog runs;
-    // without a host object nobody is told.
-    static void NotifyHost(bool running);
     // Tells the host that the dialog no longer runs. Under the switch only
     // once, and only after a modal run was announced.
     void NotifyRunEnded();
