@@ -80,16 +80,16 @@ void AddFileDialogs(CKyUIVerticalLayout* page, const GalleryReport& report)
         return paths.join("").isEmpty() ? QString("Nothing was chosen") : "Chosen: " + paths.join(", ");
     };
     AddOpener(row, "Open...", report, [=](CKyUIBaseView* parent) {
-        return chosen({CKyUIFileDialog::getOpenFileName(parent, "Open drawing", drawings, "gallery")}));
+        return chosen({CKyUIFileDialog::getOpenFileName(parent, "Open drawing", drawings, "gallery")});
     });
     AddOpener(row, "Open several...", report, [=](CKyUIBaseView* parent) {
         return chosen(CKyUIFileDialog::getOpenFileNames(parent, "Open drawings", drawings, "gallery"));
     });
     AddOpener(row, "Save as...", report, [=](CKyUIBaseView* parent) {
-        return chosen({CKyUIFileDialog::getSaveFileName(parent, "Save drawing", drawings, "gallery")}));
+        return chosen({CKyUIFileDialog::getSaveFileName(parent, "Save drawing", drawings, "gallery")});
     });
     AddOpener(row, "Folder...", report, [=](CKyUIBaseView* parent) {
-        return chosen({CKyUIFileDialog::getExistingDirectory(parent, "Choose folder", "gallery")}));
+        return chosen({CKyUIFileDialog::getExistingDirectory(parent, "Choose folder", "gallery")});
     });
     AddFiller(row);
 }
@@ -115,7 +115,7 @@ void AddColorButtons(CKyUIVerticalLayout* page, const GalleryReport& report)
             [report, name](QColor color) { report(name + " colour " + color.name().toUpper()); });
         row->addView(button);
     }
-    row->addView(NewLabel("Click one to open the chooser"), 1.0f);
+    row->addView(NewLabel("Click to choose"), 1.0f);
 }
 
 void AddTree(CKyUIVerticalLayout* page, const GalleryReport& report)
