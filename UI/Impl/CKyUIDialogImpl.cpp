@@ -5,7 +5,7 @@
 #include "UI/Impl/CKyUIBaseViewImpl.h"
 #include "UI/Impl/KySettingsStore.h"
 
-#include "KyHostKernel.h"
+#include "UI/Impl/KyModalRun.h"
 
 #include <QtCore/QRect>
 
@@ -81,17 +81,6 @@ void CKyUIDialogImpl::hideEvent(CKyUIHideEvent* event)
     m_dialog->hideEvent(event);
 }
 
-void CKyUIDialogImpl::NotifyHost(bool running)
-{
-    const CKyDocument* document = ACTIVE_DOCUMENT();
-    if (!document || !document->host)
-        return;
-    // Asked again: the host hands out its active document afresh each time.
-    const CKyDocument* active = ACTIVE_DOCUMENT();
-    if (active && active->host)
-        active->host->SetModalDialogRunning(running);
-}
-
 void CKyUIDialogImpl::SetDefaultReleasesToolkitDialog(bool release)
 {
     g_defaultReleasesToolkitDialog = release;
@@ -121,7 +110,7 @@ int CKyUIDialogImpl::Exec(bool modal)
     // is then no modal run to announce.
     const bool modalRun = modal || !owner()->isInteractive();
     if (modalRun) {
-        NotifyHost(true);
+        KyModalRun::NotifyHost(true);
         m_hostToldRunning = true;
     }
     SetupUIImpl(nullptr);
@@ -208,7 +197,7 @@ void CKyUIDialogImpl::Accept()
     if (owner()->isInteractive())
         return EndRun(1);
     m_result = 1;
-    NotifyHost(false);
+    KyModalRun::NotifyHost(false);
     RememberOnClose(m_result);
     HideImpl();
 }
@@ -218,7 +207,7 @@ void CKyUIDialogImpl::Reject()
     if (owner()->isInteractive())
         return EndRun(0);
     m_result = 0;
-    NotifyHost(false);
+    KyModalRun::NotifyHost(false);
     RememberOnClose(m_result);
     HideImpl();
 }
@@ -228,7 +217,7 @@ void CKyUIDialogImpl::Done(int result)
     if (owner()->isInteractive())
         return EndRun(result);
     m_result = result;
-    NotifyHost(false);
+    KyModalRun::NotifyHost(false);
     RememberOnClose(m_result);
     HideImpl();
 }
@@ -243,11 +232,11 @@ void CKyUIDialogImpl::Hide()
 void CKyUIDialogImpl::NotifyRunEnded()
 {
     if (!owner()->isInteractive())
-        return NotifyHost(false);
+        return KyModalRun::NotifyHost(false);
     if (!m_hostToldRunning)
         return;
     m_hostToldRunning = false;
-    NotifyHost(false);
+    KyModalRun::NotifyHost(false);
 }
 
 void CKyUIDialogImpl::EndRun(int result)

@@ -82,9 +82,6 @@ private:
     // Once per run, as the dialog closes: the window's place always, the
     // controls' values only when accepted (result 1).
     void RememberOnClose(int result);
-    // Tells the active document's host object whether a modal dialog runs;
-    // without a host object nobody is told.
-    static void NotifyHost(bool running);
     // Tells the host that the dialog no longer runs. Under the switch only
     // once, and only after a modal run was announced.
     void NotifyRunEnded();
