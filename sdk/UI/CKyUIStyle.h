@@ -22,8 +22,7 @@ class COMMONUI_EXPORT CKyUIStyle
 {
 public:
     /// The look the next dialog runs take.
-    enum class Variant
-    {
+    enum class Variant {
         /// The compiled-in theme, as styleSheet holds it. The default.
         Default,
         /// The compiled-in dark look, with every state shown and room for

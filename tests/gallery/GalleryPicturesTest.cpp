@@ -15,9 +15,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
 #include <QtCore/QSet>
-#include <QtCore/QCoreApplication>
 #include <QtGui/QGuiApplication>
 #include <QtWidgets/QAbstractButton>
 
@@ -40,53 +40,51 @@ class StatesDialog : public CKyUIDialog
 public:
     void SetupUI() override
     {
-        toggle = new CKyUIPushButton;
         toggle->setText("Toggle");
         toggle->setCheckable(true);
-        edit = new CKyUITextEdit(CKyUITextEdit::Medium);
         edit->setText("Text");
         GetLayout()->addView(toggle);
         GetLayout()->addView(edit);
     }
-    CKyUIPushButton* toggle = nullptr;
-    CKyUITextEdit* edit = nullptr;
+    CKyUIPushButton* toggle = new CKyUIPushButton;
+    CKyUITextEdit* edit = new CKyUITextEdit(CKyUITextEdit::Medium);
 };
+
+QWidget* WidgetOf(CKyUIObject* object)
+{
+    return qobject_cast<QWidget*>(object->getHandle());
+}
 } // namespace
 
-// In both variants a control disabled, a toggle checked and a control with
-// the keyboard focus each look different from before.
+// In both variants a control disabled, a toggle checked and a field with the
+// keyboard focus each look different from before.
 TEST(GalleryPictures, StatesAreVisibleInBothVariants)
 {
     for (const CKyUIStyle::Variant variant : {CKyUIStyle::Variant::Dark, CKyUIStyle::Variant::Light}) {
         CKyUIStyle::setVariant(variant);
         StatesDialog dialog;
         CKyUITimer::singleShot(0, [&dialog]() {
-            const auto widget = [](CKyUIBaseView* view) { return qobject_cast<QWidget*>(view->getHandle()); };
-            // Focus shows in the active window only.
-            qobject_cast<QWidget*>(dialog.getHandle())->activateWindow();
+            WidgetOf(&dialog)->activateWindow(); // focus shows in the active window only
             QCoreApplication::processEvents();
-            const struct
-            {
-                const char* state;
-                CKyUIBaseView* view;
-                std::function<void(bool)> set;
-            } states[] = {
-                {"disabled button", dialog.toggle, [&](bool on) { dialog.toggle->setEnabled(!on); }},
-                {"disabled text edit", dialog.edit, [&](bool on) { dialog.edit->setEnabled(!on); }},
-                {"checked toggle", dialog.toggle,
-                 [&](bool on) { qobject_cast<QAbstractButton*>(widget(dialog.toggle))->setChecked(on); }},
-                {"focused text edit", dialog.edit,
-                 [&](bool on) { on ? dialog.edit->setFocus() : widget(dialog.toggle)->setFocus(); }},
+            WidgetOf(dialog.toggle)->setFocus();
+            auto* toggle = qobject_cast<QAbstractButton*>(WidgetOf(dialog.toggle));
+            const std::pair<CKyUIBaseView*, std::function<void(bool)>> states[] = {
+                {dialog.toggle, [&](bool on) { dialog.toggle->setEnabled(!on); }},
+                {dialog.edit, [&](bool on) { dialog.edit->setEnabled(!on); }},
+                {dialog.toggle, [&](bool on) { toggle->setChecked(on); }},
+                {dialog.edit,
+                 [&](bool on) {
+                     WidgetOf(on ? static_cast<CKyUIBaseView*>(dialog.edit) : dialog.toggle)->setFocus();
+                 }},
             };
-            for (const auto& row : states) {
-                row.set(false);
-                const QImage before = widget(row.view)->grab().toImage();
-                row.set(true);
-                const QImage after = widget(row.view)->grab().toImage();
-                row.set(false);
-                const PictureComparison result = ComparePictures(before, after);
-                EXPECT_TRUE(result.sameSize) << row.state;
-                EXPECT_GT(result.differing, result.total / 20) << row.state << ": " << result.summary().toStdString();
+            for (const auto& state : states) {
+                const QImage before = WidgetOf(state.first)->grab().toImage();
+                state.second(true);
+                const PictureComparison result =
+                    ComparePictures(before, WidgetOf(state.first)->grab().toImage());
+                state.second(false);
+                EXPECT_GT(result.differing, result.total / 20)
+                    << &state - states << ": " << result.summary().toStdString();
             }
             dialog.accept();
         });

@@ -20,7 +20,8 @@
 #include <functional>
 #include <utility>
 
-namespace {
+namespace
+{
 
 // The palette's colours, as in resources/qss/style.colors.
 const QColor kClone(0x64, 0x64, 0x64);
@@ -108,7 +109,8 @@ void DrawChevron(QPainter& painter, bool pointUp)
 // a 1-unit outline falls on whole pixels at 1x and at 2x.
 struct VariantColours
 {
-    QColor fill, frame, checkedFill, mark, disabledFill, disabledFrame, disabledMark, chevron, disabledChevron;
+    QColor fill, frame, checkedFill, mark, disabledFill, disabledFrame, disabledMark, chevron,
+        disabledChevron;
 };
 
 const VariantColours kDarkVariant = {
@@ -183,7 +185,8 @@ QList<Icon> VariantIcons(const VariantColours& c)
                               if (mark.isValid())
                                   DrawVariantMark(p, round, mark);
                           }});
-            icons.last().variantName = QStringLiteral("%1_%2").arg(QLatin1String(shape), QLatin1String(state));
+            icons.last().variantName =
+                QStringLiteral("%1_%2").arg(QLatin1String(shape), QLatin1String(state));
         };
         add("unchecked", c.fill, c.frame, QColor());
         add("checked", c.checkedFill, c.checkedFill, c.mark);
@@ -205,7 +208,7 @@ int PaintVariants(const QDir& output)
 {
     int failures = 0;
     const std::pair<const char*, VariantColours> variants[] = {{"dark", kDarkVariant},
-                                                              {"light", kLightVariant}};
+                                                               {"light", kLightVariant}};
     for (const auto& variant : variants) {
         const QDir folder(output.filePath(QLatin1String(variant.first)));
         if (!QDir().mkpath(folder.path())) {

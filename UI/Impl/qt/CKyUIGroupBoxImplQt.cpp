@@ -91,7 +91,8 @@ void CKyUIGroupBoxImpl::SetInteractiveImpl(bool interactive)
 {
     CKyUIBaseViewImpl::SetInteractiveImpl(interactive);
     ShowContentImpl(!(interactive && m_collapsed));
-    GiveTitleRoomImpl((interactive || KyThemeVariant::Current() != CKyUIStyle::Variant::Default) && !m_title.isEmpty());
+    GiveTitleRoomImpl((interactive || KyThemeVariant::Current() != CKyUIStyle::Variant::Default) &&
+                      !m_title.isEmpty());
 }
 
 void CKyUIGroupBoxImpl::ShowContentImpl(bool show)

@@ -31,9 +31,7 @@ double Linear(double channel)
 // a relative luminance above 0.179.
 bool IsLight(const QColor& colour)
 {
-    const double luminance =
-        0.2126 * Linear(colour.redF()) + 0.7152 * Linear(colour.greenF()) + 0.0722 * Linear(colour.blueF());
-    return luminance > 0.179;
+    return KyThemeVariant::Luminance(colour) > 0.179;
 }
 
 // Restyles the dialogs that follow the host when the host changes its palette
@@ -56,7 +54,8 @@ public:
     {
         if (event->type() == QEvent::ApplicationPaletteChange && g_chosen == Variant::FollowHost) {
             auto* dialog = qobject_cast<QDialog*>(watched);
-            if (dialog && dialog->property(kAppliedProperty).toInt() != static_cast<int>(KyThemeVariant::Current()))
+            if (dialog &&
+                dialog->property(kAppliedProperty).toInt() != static_cast<int>(KyThemeVariant::Current()))
                 KyThemeVariant::ApplyTo(dialog);
         }
         return false;
@@ -72,6 +71,12 @@ void KyThemeVariant::Choose(Variant variant)
 Variant KyThemeVariant::Chosen()
 {
     return g_chosen;
+}
+
+double KyThemeVariant::Luminance(const QColor& colour)
+{
+    return 0.2126 * Linear(colour.redF()) + 0.7152 * Linear(colour.greenF()) +
+           0.0722 * Linear(colour.blueF());
 }
 
 Variant KyThemeVariant::Current()

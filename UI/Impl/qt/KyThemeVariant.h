@@ -4,6 +4,7 @@
 
 #include <QtCore/QString>
 
+class QColor;
 class QDialog;
 
 // Which sheet a dialog run takes: the compiled-in theme, or one of the
@@ -16,6 +17,8 @@ CKyUIStyle::Variant Chosen();
 // The chosen variant with FollowHost decided against the application palette
 // as it is now: Default, Dark or Light.
 CKyUIStyle::Variant Current();
+// The colour's relative luminance (WCAG), 0 for black to 1 for white.
+double Luminance(const QColor& colour);
 // The variant's whole sheet, read once; empty for Default or when missing.
 QString Sheet(CKyUIStyle::Variant variant);
 // Sets the current variant's sheet on the dialog and, under FollowHost, keeps
