@@ -4,6 +4,7 @@
 #include "UI/Impl/qt/KyThemeResources.h"
 
 #include <QtCore/QEvent>
+#include <QtCore/QList>
 #include <QtCore/QPointer>
 #include <QtGui/QColor>
 #include <QtGui/QPalette>
@@ -34,32 +35,46 @@ bool IsLight(const QColor& colour)
     return KyThemeVariant::Luminance(colour) > 0.179;
 }
 
-// Restyles the dialogs that follow the host when the host changes its palette
-// while they exist. One per application; dialogs that stop following are
-// taken off it.
+// Restyles the dialogs that follow the host when the host changes its
+// palette. Qt 5 reports the change to every widget, Qt 6 to the application
+// and to child widgets only, so the watcher sits on the application, where
+// both pass by; it is installed the first time a dialog follows the host.
 class HostPaletteWatcher : public QObject
 {
 public:
     using QObject::QObject;
 
-    static HostPaletteWatcher* Get(bool create)
+    static void Follow(QDialog* dialog, bool follow)
     {
         static QPointer<HostPaletteWatcher> watcher;
-        if (!watcher && create && QCoreApplication::instance())
+        if (!watcher && follow && QCoreApplication::instance()) {
             watcher = new HostPaletteWatcher(QCoreApplication::instance());
-        return watcher;
+            QCoreApplication::instance()->installEventFilter(watcher);
+        }
+        if (!watcher)
+            return;
+        watcher->m_dialogs.removeAll(QPointer<QDialog>());
+        watcher->m_dialogs.removeAll(dialog);
+        if (follow)
+            watcher->m_dialogs.append(dialog);
     }
 
-    bool eventFilter(QObject* watched, QEvent* event) override
+    bool eventFilter(QObject*, QEvent* event) override
     {
-        if (event->type() == QEvent::ApplicationPaletteChange && g_chosen == Variant::FollowHost) {
-            auto* dialog = qobject_cast<QDialog*>(watched);
-            if (dialog &&
-                dialog->property(kAppliedProperty).toInt() != static_cast<int>(KyThemeVariant::Current()))
+        if (event->type() != QEvent::ApplicationPaletteChange || g_chosen != Variant::FollowHost)
+            return false;
+        // Reported once per widget: a dialog is restyled when its variant changes only.
+        const int current = static_cast<int>(KyThemeVariant::Current());
+        const QList<QPointer<QDialog>> dialogs = m_dialogs;
+        for (const QPointer<QDialog>& dialog : dialogs) {
+            if (dialog && dialog->property(kAppliedProperty).toInt() != current)
                 KyThemeVariant::ApplyTo(dialog);
         }
         return false;
     }
+
+private:
+    QList<QPointer<QDialog>> m_dialogs;
 };
 } // namespace
 
@@ -109,11 +124,6 @@ void KyThemeVariant::ApplyTo(QDialog* dialog)
         dialog->setStyleSheet(Sheet(current));
         dialog->setProperty(kAppliedProperty, static_cast<int>(current));
     }
-    if (HostPaletteWatcher* watcher = HostPaletteWatcher::Get(g_chosen == Variant::FollowHost)) {
-        if (g_chosen == Variant::FollowHost)
-            dialog->installEventFilter(watcher);
-        else
-            dialog->removeEventFilter(watcher);
-    }
+    HostPaletteWatcher::Follow(dialog, g_chosen == Variant::FollowHost);
     KyControlSheet::ReapplyAll(dialog);
 }
