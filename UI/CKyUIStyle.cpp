@@ -1,6 +1,7 @@
 #include "UI/CKyUIStyle.h"
 
 #include "UI/Impl/qt/KyThemeResources.h"
+#include "UI/Impl/qt/KyThemeVariant.h"
 
 #include <QtCore/QMap>
 #include <QtCore/QStringList>
@@ -12,6 +13,16 @@ std::shared_ptr<CKyUIStyle> GetStyle()
     if (!g_pStyle)
         g_pStyle = std::make_shared<CKyUIStyle>();
     return g_pStyle;
+}
+
+void CKyUIStyle::setVariant(Variant variant)
+{
+    KyThemeVariant::Choose(variant);
+}
+
+CKyUIStyle::Variant CKyUIStyle::variant()
+{
+    return KyThemeVariant::Chosen();
 }
 
 CKyUIStyle::CKyUIStyle()

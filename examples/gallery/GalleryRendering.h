@@ -1,5 +1,7 @@
 #pragma once
 
+#include "UI/CKyUIStyle.h"
+
 #include <QtCore/QList>
 #include <QtCore/QString>
 #include <QtGui/QImage>
@@ -9,9 +11,12 @@
 namespace GalleryRendering
 {
 
-// Before the QApplication exists: the offscreen platform at a scale of 1,
-// whatever scaling the caller's environment asks for.
-void UseOffscreenPlatform();
+// Before the QApplication exists: the offscreen platform at the given scale
+// (2 for 200 %), whatever scaling the caller's environment asks for.
+void UseOffscreenPlatform(int scale = 1);
+
+// The scale asked for with "--scale=2" among the arguments; 1 without.
+int ScaleFromArguments(int argc, char** argv);
 
 // Fusion style and DejaVu Sans at 12 px (the theme's size) for the whole
 // application, so that the pictures do not depend on the desktop's fonts.
@@ -26,9 +31,27 @@ struct RenderedPage
     QImage image;
 };
 
-// Runs the gallery dialog, grabs it once per page and accepts it.
-QList<RenderedPage> RenderPages();
+// Runs the gallery dialog, grabs it once per page and accepts it. The
+// suffix goes into every file name.
+QList<RenderedPage> RenderPages(const QString& suffix = QString());
 
-QString FileNameFor(const QString& title);
+// "buttons-and-text-light-200.png" for "Buttons and text" and "-light-200"
+QString FileNameFor(const QString& title, const QString& suffix = QString());
+
+// A look the pictures are taken in: the theme's variant and the suffix of
+// its file names.
+struct Look
+{
+    CKyUIStyle::Variant variant;
+    QString suffix;
+};
+
+// The looks pictured at a scale: the default theme and both variants at
+// 100 % (suffixes "", "-dark", "-light"), both variants at 200 % ("-dark-200",
+// "-light-200").
+QList<Look> LooksAt(int scale);
+
+// Every page in every look of the scale; the variant is Default again after.
+QList<RenderedPage> RenderLooks(int scale);
 
 } // namespace GalleryRendering

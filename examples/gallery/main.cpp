@@ -1,7 +1,9 @@
 // The gallery of every control. With a display it runs modally until the user
-// closes it. Without one it runs on the offscreen platform, saves a picture of
-// every page to the folder given as the first argument (default: screenshots)
-// and prints the pictures' paths.
+// closes it, in the theme's variant named by --variant=dark, light or host.
+// Without one it runs on the offscreen platform, saves a picture of every page
+// in every look (the default theme and both variants; with --scale=2 both
+// variants at 200 %) to the folder given as the first other argument
+// (default: screenshots) and prints the pictures' paths.
 
 #include "GalleryDialog.h"
 #include "GalleryRendering.h"
@@ -16,9 +18,21 @@ int main(int argc, char** argv)
 {
     const bool headless =
         qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+    const int scale = GalleryRendering::ScaleFromArguments(argc, argv);
     if (headless)
-        GalleryRendering::UseOffscreenPlatform();
+        GalleryRendering::UseOffscreenPlatform(scale);
     QApplication application(argc, argv);
+    QString folderName = "screenshots";
+    for (const QString& argument : QApplication::arguments().mid(1)) {
+        if (argument == "--variant=dark")
+            CKyUIStyle::setVariant(CKyUIStyle::Variant::Dark);
+        else if (argument == "--variant=light")
+            CKyUIStyle::setVariant(CKyUIStyle::Variant::Light);
+        else if (argument == "--variant=host")
+            CKyUIStyle::setVariant(CKyUIStyle::Variant::FollowHost);
+        else if (!argument.startsWith("--"))
+            folderName = argument;
+    }
 
     QString problem;
     if (!GalleryRendering::UseStableLook(&problem)) {
@@ -36,13 +50,12 @@ int main(int argc, char** argv)
         return 0;
     }
 
-    const QDir folder(
-        QFileInfo(argc > 1 ? QString::fromLocal8Bit(argv[1]) : "screenshots").absoluteFilePath());
+    const QDir folder(QFileInfo(folderName).absoluteFilePath());
     if (!QDir().mkpath(folder.path())) {
         std::fprintf(stderr, "gallery: cannot create %s\n", qPrintable(folder.path()));
         return 1;
     }
-    const QList<GalleryRendering::RenderedPage> pages = GalleryRendering::RenderPages();
+    const QList<GalleryRendering::RenderedPage> pages = GalleryRendering::RenderLooks(scale);
     if (pages.isEmpty()) {
         std::fprintf(stderr, "gallery: no page was rendered\n");
         return 1;

@@ -1,8 +1,8 @@
 #include "UI/Impl/CKyUIDialogImpl.h"
 
 #include "UI/CKyUIDialog.h"
-#include "UI/CKyUIStyle.h"
 #include "UI/CKyUIVerticalLayout.h"
+#include "UI/Impl/qt/KyThemeVariant.h"
 #include "UI/Impl/qt/KyWindowPlacement.h"
 
 #include <QtCore/QEvent>
@@ -83,9 +83,9 @@ void CKyUIDialogImpl::SetupUIImpl(QObject*)
     QDialog* dialog = DialogOf(owner());
     if (!dialog)
         return;
-    // The only place the theme is applied: it cascades to every control.
-    if (const std::shared_ptr<CKyUIStyle> style = GetStyle())
-        dialog->setStyleSheet(style->styleSheet);
+    // The only place the theme is applied: it cascades to every control. The
+    // compiled-in sheet unless the client chose a variant.
+    KyThemeVariant::ApplyTo(dialog);
     dialog->setSizePolicy(QSizePolicy::MinimumExpanding, QSizePolicy::MinimumExpanding);
 
     auto* boxLayout = new QVBoxLayout(dialog);

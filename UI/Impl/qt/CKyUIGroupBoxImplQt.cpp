@@ -2,6 +2,7 @@
 
 #include "UI/Impl/qt/CKyUIGroupBoxFrontend.h"
 #include "UI/Impl/qt/KyBoxPlacement.h"
+#include "UI/Impl/qt/KyThemeVariant.h"
 #include "UI/Impl/qt/StyleSheetRewriter.h"
 
 #include <QtWidgets/QBoxLayout>
@@ -56,7 +57,8 @@ void CKyUIGroupBoxImpl::SetTitleImpl(const QString& title)
 {
     if (CKyUIGroupBoxFrontend* frontend = FrontendOf(owner()))
         frontend->setTitle(title);
-    if (owner()->isInteractive())
+    // The variants show titles; the compiled-in theme leaves them no room.
+    if (owner()->isInteractive() || KyThemeVariant::Current() != CKyUIStyle::Variant::Default)
         GiveTitleRoomImpl(!title.isEmpty());
 }
 
@@ -89,7 +91,8 @@ void CKyUIGroupBoxImpl::SetInteractiveImpl(bool interactive)
 {
     CKyUIBaseViewImpl::SetInteractiveImpl(interactive);
     ShowContentImpl(!(interactive && m_collapsed));
-    GiveTitleRoomImpl(interactive && !m_title.isEmpty());
+    GiveTitleRoomImpl((interactive || KyThemeVariant::Current() != CKyUIStyle::Variant::Default) &&
+                      !m_title.isEmpty());
 }
 
 void CKyUIGroupBoxImpl::ShowContentImpl(bool show)

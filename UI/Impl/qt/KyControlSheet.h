@@ -13,8 +13,10 @@ namespace KyControlSheet
 // Gives the widget the named sheet of the current variant; a sheet that is
 // not compiled in leaves the widget as it is.
 void Apply(QWidget* widget, const QString& name);
-// Applies again, to the widget and every child that was given a sheet.
+// Applies again, to the widget and every child that was given a sheet, where
+// the variant changed since.
 void ReapplyAll(QWidget* root);
-// The folder of the variant whose sheets are applied ("dark").
+// The folder of the variant whose sheets are applied: "light" under the light
+// variant (chosen, or picked from the host's palette), "dark" otherwise.
 QString VariantFolder();
 } // namespace KyControlSheet
