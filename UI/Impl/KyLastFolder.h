@@ -3,7 +3,8 @@
 #include <QtCore/QString>
 
 // The folder a file dialog last ended in, per key of the caller's choosing.
-// Kept for the process only; these two are the one way in and out of it.
+// Kept in the dialogs' store, so that it outlives the host's session; these
+// two are the one way in and out of it.
 namespace KyLastFolder
 {
 // The folder last stored under the key; empty when there is none, and for

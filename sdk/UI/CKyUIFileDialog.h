@@ -60,7 +60,9 @@ public:
     /// The filters last set.
     QStringList nameFilters() const;
     /// The key under which the folder is remembered; empty (the default)
-    /// remembers nothing.
+    /// remembers nothing. The folders are kept in the dialogs' store (see
+    /// CKyUISettingsStore), so the next session under the same key starts
+    /// there too, unless the folder has gone since.
     void setFolderKey(const QString& key);
     /// The key last set.
     QString folderKey() const;

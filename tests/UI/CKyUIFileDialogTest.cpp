@@ -1,5 +1,7 @@
 #include "UI/CKyUIFileDialog.h"
+#include "UI/CKyUISettingsStore.h"
 #include "UI/Impl/KyLastFolder.h"
+#include "UI/Impl/KySettingsStore.h"
 #include "support/ModalDriver.h"
 #include "support/TestDialogs.h"
 
@@ -101,4 +103,21 @@ TEST(CKyUIFileDialogTest, StartsInTheRememberedFolderAndCancelReturnsNothing)
     EXPECT_EQ(CKyUIFileDialog::getOpenFileName(nullptr, "Open", "Drawings (*.dxf)", "drawings"),
               folder.path("b.dxf"));
     EXPECT_EQ(KyLastFolder::Get("drawings"), folder.path());
+}
+
+// The folders outlive the process through the dialogs' store: what a dialog
+// keeps is written there, and a key only the store knows (an earlier session)
+// is read from it, unless its folder has gone since.
+TEST(CKyUIFileDialogTest, RememberedFoldersGoThroughTheStore)
+{
+    const Folder folder;
+    CKyUISettingsStore::setFile(folder.path("store.ini"));
+    KyLastFolder::Set("exports", folder.path("parts"));
+    EXPECT_EQ(KySettingsStore::ReadImpl("file-dialogs/exports").value("folder"), folder.path("parts"));
+
+    KySettingsStore::WriteImpl("file-dialogs/earlier", {{"folder", folder.path()}});
+    KySettingsStore::WriteImpl("file-dialogs/gone", {{"folder", folder.path("gone")}});
+    EXPECT_EQ(KyLastFolder::Get("earlier"), folder.path());
+    EXPECT_EQ(KyLastFolder::Get("gone"), "");
+    CKyUISettingsStore::setFile(QString());
 }
