@@ -1,6 +1,7 @@
 #include "UI/Impl/CKyUIColorButtonImpl.h"
 
 #include "UI/Impl/KyModalRun.h"
+#include "UI/Impl/KySettingsStore.h"
 
 CKyUIColorButtonImpl::CKyUIColorButtonImpl(CKyUIObject* owner)
     : CKyUIBaseViewImpl(owner)
@@ -32,4 +33,18 @@ void CKyUIColorButtonImpl::OnClicked()
     }
     if (accepted && lifetime.Alive())
         SetColor(chosen);
+}
+
+QVariant CKyUIColorButtonImpl::RememberedValue() const
+{
+    return m_color.name(QColor::HexArgb);
+}
+
+bool CKyUIColorButtonImpl::RestoreRememberedValue(const QVariant& value)
+{
+    QString name;
+    if (!KySettingsStore::ReadString(value, &name) || !QColor(name).isValid())
+        return false;
+    SetColor(QColor(name));
+    return true;
 }

@@ -21,6 +21,8 @@ public:
 
     void SetColor(const QColor& color);
     const QColor& Color() const { return m_color; }
+    QVariant RememberedValue() const override;
+    bool RestoreRememberedValue(const QVariant& value) override;
     void SetChooserTitle(const QString& title) { m_chooserTitle = title; }
     const QString& ChooserTitle() const { return m_chooserTitle; }
 

@@ -1,5 +1,7 @@
 #include "UI/Impl/CKyUITreeViewImpl.h"
 
+#include "UI/Impl/KySettingsStore.h"
+
 #include <algorithm>
 
 CKyUITreeViewImpl::CKyUITreeViewImpl(CKyUIObject* owner)
@@ -294,4 +296,18 @@ void CKyUITreeViewImpl::OnSortShown(int column, bool ascending)
 {
     m_sortColumn = column;
     m_sortAscending = ascending;
+}
+
+QVariant CKyUITreeViewImpl::RememberedValue() const
+{
+    return KySettingsStore::IntListValue(ColumnWidths());
+}
+
+bool CKyUITreeViewImpl::RestoreRememberedValue(const QVariant& value)
+{
+    QList<int> widths;
+    if (!KySettingsStore::ReadIntList(value, &widths, 0, 100000))
+        return false;
+    SetColumnWidths(widths);
+    return true;
 }

@@ -60,6 +60,9 @@ public:
     void SetColumnWidth(int column, int width);
     QList<int> ColumnWidths() const { return m_columnWidths.toList(); }
     void SetColumnWidths(const QList<int>& widths);
+    // A tree keeps the widths of its columns.
+    QVariant RememberedValue() const override;
+    bool RestoreRememberedValue(const QVariant& value) override;
 
     // What the widget reports.
     void OnCurrentShown(int item);

@@ -97,4 +97,31 @@ bool ReadStringList(const QVariant& value, QStringList* out)
     *out = value.toStringList();
     return true;
 }
+
+bool ReadIntList(const QVariant& value, QList<int>* out, int minimum, int maximum)
+{
+    QStringList texts;
+    QString one;
+    if (ReadString(value, &one))
+        texts << one;
+    else if (!ReadStringList(value, &texts))
+        return false;
+    QList<int> numbers;
+    for (const QString& text : texts) {
+        int number = 0;
+        if (!ReadInt(text, &number, minimum, maximum))
+            return false;
+        numbers << number;
+    }
+    *out = numbers;
+    return true;
+}
+
+QVariant IntListValue(const QList<int>& numbers)
+{
+    QStringList texts;
+    for (int number : numbers)
+        texts << QString::number(number);
+    return texts;
+}
 } // namespace KySettingsStore

@@ -34,6 +34,10 @@ bool ReadBool(const QVariant& value, bool* out);
 bool ReadInt(const QVariant& value, int* out, int minimum = INT_MIN, int maximum = INT_MAX);
 bool ReadString(const QVariant& value, QString* out);
 bool ReadStringList(const QVariant& value, QStringList* out);
+// Whole numbers within the range, as an INI file gives a list of them back:
+// texts, or one text for a list of one. IntListValue() is the form to keep.
+bool ReadIntList(const QVariant& value, QList<int>* out, int minimum, int maximum);
+QVariant IntListValue(const QList<int>& numbers);
 
 // Toolkit steps.
 QString LocationImpl();
