@@ -8,7 +8,7 @@
 #include "UI/CKyUICheckBox.h"
 #include "UI/CKyUIComboBox.h"
 #include "UI/CKyUIDialogButtonBox.h"
-#include "UI/CKyUITextEdit.h"
+#include "UI/CKyUIDoubleSpinBox.h"
 #include "UI/CKyUITimer.h"
 
 #include <QtTest/QTest>
@@ -31,6 +31,8 @@ void Retype(const CKyUIBaseView* field, const char* text)
     QTest::mouseDClick(widget, Qt::LeftButton);
     QTest::keyClick(widget, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClicks(widget, QString::fromLatin1(text));
+    // Moving on is what makes a spin box take a typed number.
+    QTest::keyClick(widget, Qt::Key_Tab);
 }
 
 // What a user does, from inside the dialog's run.

@@ -23,3 +23,4 @@ using GalleryReport = std::function<void(const QString&)>;
 GalleryPage BuildButtonsAndTextPage(const GalleryReport& report);
 GalleryPage BuildChoicesPage(const GalleryReport& report);
 GalleryPage BuildContainersPage(const GalleryReport& report);
+GalleryPage BuildNumbersAndLayoutPage(const GalleryReport& report);
