@@ -9,7 +9,6 @@
 #include "UI/CKyUIGridLayout.h"
 #include "UI/CKyUIHorizontalLayout.h"
 #include "UI/CKyUILabel.h"
-#include "UI/CKyUIListBox.h"
 #include "UI/CKyUIProgressBar.h"
 #include "UI/CKyUISeparator.h"
 #include "UI/CKyUISpinBox.h"
@@ -128,26 +127,30 @@ void AddGridAndForm(CKyUIVerticalLayout* page)
     row->addView(form, 1.0f);
 }
 
+// The theme has no rule for text views; the palette gives them the colours
+// of the fields (Base: background, Text: text, AlternateBase: border).
+CKyUITextView* Notes(const QString& text)
+{
+    auto* notes = new CKyUITextView;
+    QPalette colours;
+    colours.setColor(QPalette::Base, Field);
+    colours.setColor(QPalette::Text, Text);
+    colours.setColor(QPalette::AlternateBase, Qt::black);
+    notes->setPalette(colours);
+    notes->setBorderWidth(1);
+    notes->setText(text);
+    return notes;
+}
+
 void AddSplitter(CKyUIVerticalLayout* page)
 {
     page->addView(new CKyUISeparator);
     CKyUIHorizontalLayout* row = AddRow(page, "Splitter");
     auto* split = new CKyUISplitter;
-    // The theme leaves list widgets and text views alone; the palette gives
-    // them the colours of the fields (AlternateBase is the border colour).
-    QPalette colours;
-    colours.setColor(QPalette::Base, Field);
-    colours.setColor(QPalette::Text, Text);
-    colours.setColor(QPalette::AlternateBase, Qt::black);
-    auto* parts = new CKyUIListBox;
-    parts->setPalette(colours);
-    parts->setBorderWidth(1);
-    auto* notes = new CKyUITextView;
-    notes->setText("Drag the handle between the two views; sizes() reads the share, setSizes() restores it.");
-    notes->setPalette(colours);
-    notes->setBorderWidth(1);
-    split->addView(parts, 1.0f);
-    split->addView(notes, 2.0f);
+    split->addView(Notes("Pocket\nHole pattern\nFillet"), 1.0f);
+    split->addView(Notes("Drag the handle between the two views: sizes() reads the share, "
+                         "setSizes() restores it."),
+                   2.0f);
     split->setSizes({150, 350});
     split->setMaximumHeight(70);
     split->setToolTip("A splitter with two views");
