@@ -62,6 +62,11 @@ public:
     enum class HelpText { ToolTip, StatusTip, WhatsThis, AccessibleName, AccessibleDescription, Count };
     void SetHelpText(HelpText kind, const QString& text);
     QString GetHelpText(HelpText kind) const;
+    // Records a text that a view's own setter already gave the widget.
+    void RecordHelpText(HelpText kind, const QString& text);
+    // Lets a view that keeps a text of its own (the label's tool tip) follow
+    // one set through the common setter.
+    virtual void OnHelpTextSet(HelpText kind, const QString& text);
 
     // Toolkit steps; each does nothing unless the handle is a widget.
     void SetEnabledImpl(bool enabled);

@@ -1,4 +1,5 @@
 #include "UI/CKyUIGridLayout.h"
+#include "UI/CKyUILabel.h"
 #include "UI/CKyUIPushButton.h"
 #include "UI/CKyUIRadioGroup.h"
 #include "UI/CKyUISpinBox.h"
@@ -61,6 +62,20 @@ TEST(HelpTextTest, EveryViewKeepsAndShowsItsHelp)
             EXPECT_EQ(widget->toolTip(), QString());
         }
     }
+}
+
+// The label's and the button's own setters and the common one are one text.
+TEST(HelpTextTest, OwnToolTipSettersAndTheCommonOneAgree)
+{
+    CKyUILabel label;
+    CKyUIPushButton button;
+    label.setToolTip("Hole");
+    button.setToolTip("Drill");
+    EXPECT_EQ(QStringList({label.toolTip(), button.toolTip()}), QStringList({"Hole", "Drill"}));
+    static_cast<CKyUIBaseView&>(label).setToolTip("Pocket");
+    label.setToolTip("Hole");
+    EXPECT_EQ(HandleAs<QWidget>(label)->toolTip(), "Hole");
+    EXPECT_EQ(label.toolTip(), "Hole");
 }
 
 // The pointer resting on the view shows its tool tip.
