@@ -230,6 +230,72 @@ void CKyUIBaseView::removeStyleClass(const QString& name, bool value)
     Forward(implAs<CKyUIBaseViewImpl>(), &CKyUIBaseViewImpl::RemoveStyleClassImpl, name, value);
 }
 
+namespace
+{
+using HelpText = CKyUIBaseViewImpl::HelpText;
+
+void SetHelp(CKyUIBaseViewImpl* impl, HelpText kind, const QString& text)
+{
+    if (impl)
+        impl->SetHelpText(kind, text);
+}
+
+QString Help(const CKyUIBaseViewImpl* impl, HelpText kind)
+{
+    return impl ? impl->GetHelpText(kind) : QString();
+}
+} // namespace
+
+void CKyUIBaseView::setToolTip(const QString& text)
+{
+    SetHelp(implAs<CKyUIBaseViewImpl>(), HelpText::ToolTip, text);
+}
+
+QString CKyUIBaseView::toolTip() const
+{
+    return Help(implAs<CKyUIBaseViewImpl>(), HelpText::ToolTip);
+}
+
+void CKyUIBaseView::setStatusTip(const QString& text)
+{
+    SetHelp(implAs<CKyUIBaseViewImpl>(), HelpText::StatusTip, text);
+}
+
+QString CKyUIBaseView::statusTip() const
+{
+    return Help(implAs<CKyUIBaseViewImpl>(), HelpText::StatusTip);
+}
+
+void CKyUIBaseView::setWhatsThis(const QString& text)
+{
+    SetHelp(implAs<CKyUIBaseViewImpl>(), HelpText::WhatsThis, text);
+}
+
+QString CKyUIBaseView::whatsThis() const
+{
+    return Help(implAs<CKyUIBaseViewImpl>(), HelpText::WhatsThis);
+}
+
+void CKyUIBaseView::setAccessibleName(const QString& name)
+{
+    SetHelp(implAs<CKyUIBaseViewImpl>(), HelpText::AccessibleName, name);
+}
+
+QString CKyUIBaseView::accessibleName() const
+{
+    return Help(implAs<CKyUIBaseViewImpl>(), HelpText::AccessibleName);
+}
+
+void CKyUIBaseView::setAccessibleDescription(const QString& description)
+{
+    SetHelp(implAs<CKyUIBaseViewImpl>(), HelpText::AccessibleDescription, description);
+}
+
+QString CKyUIBaseView::accessibleDescription() const
+{
+    return Help(implAs<CKyUIBaseViewImpl>(), HelpText::AccessibleDescription);
+}
+
 void CKyUIBaseView::showEvent(CKyUIShowEvent*) {}
 
 void CKyUIBaseView::hideEvent(CKyUIHideEvent*) {}

@@ -41,6 +41,8 @@ void CKyUIPushButton::setBoldText(bool bold)
 
 void CKyUIPushButton::setToolTip(const QString& toolTip)
 {
+    // Recorded for toolTip() as well; the button's own step stays as it is.
+    implAs<CKyUIPushButtonImpl>()->RecordHelpText(CKyUIBaseViewImpl::HelpText::ToolTip, toolTip);
     implAs<CKyUIPushButtonImpl>()->SetToolTipImpl(toolTip);
 }
 

@@ -125,3 +125,30 @@ void CKyUIBaseViewImpl::SetPalette(const QPalette& palette)
         SetBorderColorImpl(color.red(), color.green(), color.blue());
     }
 }
+
+void CKyUIBaseViewImpl::SetHelpText(HelpText kind, const QString& text)
+{
+    if (static_cast<size_t>(kind) >= static_cast<size_t>(HelpText::Count) || GetHelpText(kind) == text)
+        return;
+    RecordHelpText(kind, text);
+    OnHelpTextSet(kind, text);
+    SetHelpTextImpl(kind, text);
+}
+
+void CKyUIBaseViewImpl::RecordHelpText(HelpText kind, const QString& text)
+{
+    const auto index = static_cast<size_t>(kind);
+    if (index >= static_cast<size_t>(HelpText::Count) || (!m_helpTexts && text.isEmpty()))
+        return;
+    if (!m_helpTexts)
+        m_helpTexts = std::make_unique<std::array<QString, static_cast<int>(HelpText::Count)>>();
+    (*m_helpTexts)[index] = text;
+}
+
+void CKyUIBaseViewImpl::OnHelpTextSet(HelpText, const QString&) {}
+
+QString CKyUIBaseViewImpl::GetHelpText(HelpText kind) const
+{
+    const auto index = static_cast<size_t>(kind);
+    return m_helpTexts && index < m_helpTexts->size() ? (*m_helpTexts)[index] : QString();
+}

@@ -4,6 +4,9 @@
 
 #include <QtGui/QPalette>
 
+#include <array>
+#include <memory>
+
 class CKyUIBaseView;
 class QWidget;
 
@@ -66,6 +69,17 @@ public:
     void SetPalette(const QPalette& palette);
     const QPalette& Palette() const { return m_palette; }
 
+    // Help and accessibility texts, kept apart so that a view that has none
+    // carries one pointer.
+    enum class HelpText { ToolTip, StatusTip, WhatsThis, AccessibleName, AccessibleDescription, Count };
+    void SetHelpText(HelpText kind, const QString& text);
+    QString GetHelpText(HelpText kind) const;
+    // Records a text that a view's own setter already gave the widget.
+    void RecordHelpText(HelpText kind, const QString& text);
+    // Lets a view that keeps a text of its own (the label's tool tip) follow
+    // one set through the common setter.
+    virtual void OnHelpTextSet(HelpText kind, const QString& text);
+
     // Toolkit steps; each does nothing unless the handle is a widget.
     void SetEnabledImpl(bool enabled);
     void SetVisibleImpl(bool visible);
@@ -86,6 +100,7 @@ public:
     void SetBorderColorImpl(int red, int green, int blue);
     void SetBackgroundColorImpl(int red, int green, int blue);
     void SetTextColorImpl(int red, int green, int blue);
+    void SetHelpTextImpl(HelpText kind, const QString& text);
 
     // The owner's handle as a widget, or null when it is none.
     QWidget* GetWidget() const;
@@ -104,4 +119,5 @@ private:
     int m_preferableHeight = 0;
     float m_cornerRadius = 0;
     bool m_cornerRadiusGiven = false;
+    std::unique_ptr<std::array<QString, static_cast<int>(HelpText::Count)>> m_helpTexts;
 };

@@ -42,7 +42,14 @@ void CKyUILabelImpl::SetToolTip(const QString& toolTip)
     if (m_toolTip == toolTip)
         return;
     m_toolTip = toolTip;
+    RecordHelpText(HelpText::ToolTip, toolTip);
     SetToolTipImpl(toolTip);
+}
+
+void CKyUILabelImpl::OnHelpTextSet(HelpText kind, const QString& text)
+{
+    if (kind == HelpText::ToolTip)
+        m_toolTip = text;
 }
 
 void CKyUILabelImpl::clear()

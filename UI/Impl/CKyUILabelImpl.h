@@ -26,6 +26,7 @@ public:
     bool WordWrap() const { return m_wordWrap; }
     void SetToolTip(const QString& toolTip);
     const QString& ToolTip() const { return m_toolTip; }
+    void OnHelpTextSet(HelpText kind, const QString& text) override;
 
     // Drops the icon as well as the text. The public clear() empties the text
     // only, so nothing calls this yet.

@@ -3,12 +3,10 @@
 #include "UI/CKyUICheckBox.h"
 #include "UI/CKyUIComboBox.h"
 #include "UI/CKyUIDialogButtonBox.h"
+#include "UI/CKyUIDoubleSpinBox.h"
 #include "UI/CKyUIHorizontalLayout.h"
 #include "UI/CKyUILabel.h"
-#include "UI/CKyUITextEdit.h"
 #include "UI/CKyUIVerticalLayout.h"
-
-#include <QtCore/QLocale>
 
 namespace
 {
@@ -25,20 +23,17 @@ CKyUIHorizontalLayout* CaptionedRow(const QString& caption, CKyUIBaseView* contr
     return row;
 }
 
-CKyUITextEdit* LengthField(const QString& text)
+// A length in millimetres; typed with a point or a comma, whatever the
+// user's locale shows.
+CKyUIDoubleSpinBox* LengthField(double value, const QString& tip)
 {
-    auto* field = new CKyUITextEdit(CKyUITextEdit::Small);
-    field->setInputType(CKyUITextEdit::DecimalInput);
-    field->setText(text);
+    auto* field = new CKyUIDoubleSpinBox;
+    field->setRange(0, 10000);
+    field->setSuffix(" mm");
+    field->setValue(value);
+    field->setToolTip(tip);
+    field->setMinimumWidth(110);
     return field;
-}
-
-// The field's number in the user's locale, or in the C locale's notation.
-double NumberIn(const CKyUITextEdit* field)
-{
-    bool ok = false;
-    const double value = QLocale().toDouble(field->text(), &ok);
-    return ok ? value : QLocale::c().toDouble(field->text());
 }
 } // namespace
 
@@ -63,23 +58,26 @@ void PadDialog::SetupUI()
     mode = new CKyUIComboBox;
     mode->insertItems(0, {"Dimension", "Two dimensions", "Through all", "Up to face"});
     mode->setCurrentIndex(Dimension);
+    mode->setToolTip("How far the sketch is extruded");
     mode->currentIndexChanged().connect([this](int index) { ShowRowsFor(index); });
     layout->addView(CaptionedRow("Type", mode));
 
-    length = LengthField("10");
-    m_lengthRow = CaptionedRow("Length (mm)", length);
+    length = LengthField(10, "Distance from the sketch plane");
+    m_lengthRow = CaptionedRow("Length", length);
     layout->addView(m_lengthRow);
 
-    secondLength = LengthField("0");
-    m_secondLengthRow = CaptionedRow("Second length (mm)", secondLength);
+    secondLength = LengthField(0, "Distance on the other side of the sketch plane");
+    m_secondLengthRow = CaptionedRow("Second length", secondLength);
     layout->addView(m_secondLengthRow);
 
     symmetric = new CKyUICheckBox;
     symmetric->setText("Symmetric to plane");
+    symmetric->setToolTip("Half the length on each side of the sketch plane");
     layout->addView(symmetric);
 
     reversed = new CKyUICheckBox;
     reversed->setText("Reversed");
+    reversed->setToolTip("Extrude away from the sketch's normal");
     layout->addView(reversed);
 
     auto* buttons = new CKyUIDialogButtonBox(this);
@@ -110,8 +108,8 @@ PadDialog::Values PadDialog::values() const
 {
     Values chosen;
     chosen.mode = mode->currentText();
-    chosen.length = NumberIn(length);
-    chosen.secondLength = NumberIn(secondLength);
+    chosen.length = length->value();
+    chosen.secondLength = secondLength->value();
     chosen.reversed = reversed->isChecked();
     chosen.symmetric = symmetric->isChecked();
     return chosen;

@@ -6,8 +6,8 @@
 
 class CKyUICheckBox;
 class CKyUIComboBox;
+class CKyUIDoubleSpinBox;
 class CKyUIHorizontalLayout;
-class CKyUITextEdit;
 
 // The feature panel of a pad: extrude a sketch by one or two lengths, through
 // the whole part or up to a face. Every control follows its user, so the
@@ -31,8 +31,8 @@ public:
 
     // The controls, for a program that plays the user (see main.cpp).
     CKyUIComboBox* mode = nullptr;
-    CKyUITextEdit* length = nullptr;
-    CKyUITextEdit* secondLength = nullptr;
+    CKyUIDoubleSpinBox* length = nullptr;
+    CKyUIDoubleSpinBox* secondLength = nullptr;
     CKyUICheckBox* reversed = nullptr;
     CKyUICheckBox* symmetric = nullptr;
 

@@ -9,6 +9,7 @@
 #include "UI/CKyUICheckBox.h"
 #include "UI/CKyUIComboBox.h"
 #include "UI/CKyUIDialogButtonBox.h"
+#include "UI/CKyUIDoubleSpinBox.h"
 #include "UI/CKyUISettingsStore.h"
 #include "UI/CKyUITextEdit.h"
 #include "UI/CKyUITimer.h"
@@ -34,6 +35,8 @@ void Retype(const CKyUIBaseView* field, const char* text)
     QTest::mouseDClick(widget, Qt::LeftButton);
     QTest::keyClick(widget, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClicks(widget, QString::fromLatin1(text));
+    // Moving on is what makes a spin box take a typed number.
+    QTest::keyClick(widget, Qt::Key_Tab);
 }
 
 // What a user does, from inside the dialog's run.

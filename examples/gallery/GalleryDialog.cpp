@@ -22,6 +22,7 @@ void GalleryDialog::SetupUI()
 
     m_built = {BuildButtonsAndTextPage(report), BuildChoicesPage(report), BuildContainersPage(report)};
     m_built.append(BuildChoosersAndTreesPage(report));
+    m_built.append(BuildNumbersAndLayoutPage(report));
     for (const GalleryPage& page : m_built)
         m_pages->addTab(page.view, page.title);
     // Follows the program's page changes only: a click on a tab is not reported.

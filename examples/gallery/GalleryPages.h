@@ -24,3 +24,4 @@ GalleryPage BuildButtonsAndTextPage(const GalleryReport& report);
 GalleryPage BuildChoicesPage(const GalleryReport& report);
 GalleryPage BuildContainersPage(const GalleryReport& report);
 GalleryPage BuildChoosersAndTreesPage(const GalleryReport& report);
+GalleryPage BuildNumbersAndLayoutPage(const GalleryReport& report);

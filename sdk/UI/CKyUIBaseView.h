@@ -149,6 +149,35 @@ public:
     void remember(const QString& name);
     /// The name given to remember(), or an empty string.
     QString rememberName() const;
+    /// \name Help texts and accessibility
+    /// Each text is stored by the view and given to its widget; a view whose
+    /// handle is not a widget (a radio group) only stores it. Nothing is set
+    /// until a setter is called, and an empty text takes the help away again.
+    /// @{
+
+    /// The text shown when the pointer rests on the view.
+    void setToolTip(const QString& text);
+    /// The tool tip last set; empty unless set.
+    QString toolTip() const;
+    /// The text a host's status bar shows while the pointer is over the view.
+    void setStatusTip(const QString& text);
+    /// The status tip last set; empty unless set.
+    QString statusTip() const;
+    /// The longer help shown in "what's this" mode (Shift+F1, or the help
+    /// button of a dialog's title bar).
+    void setWhatsThis(const QString& text);
+    /// The "what's this" text last set; empty unless set.
+    QString whatsThis() const;
+    /// The name a screen reader announces, for views whose own text does not
+    /// say what they are (a spin box next to its label, an icon button).
+    void setAccessibleName(const QString& name);
+    /// The accessible name last set; empty unless set.
+    QString accessibleName() const;
+    /// The longer description a screen reader offers on request.
+    void setAccessibleDescription(const QString& description);
+    /// The accessible description last set; empty unless set.
+    QString accessibleDescription() const;
+    /// @}
 
     /// Event handler for subclasses; does nothing here. The library calls the
     /// handlers only for the dock widget's content.

@@ -45,6 +45,7 @@ public:
     /// The stored flag; false until set.
     bool wordWrap() const;
 
-    /// Stores the tool tip and sets it on the widget.
+    /// Stores the tool tip and sets it on the widget; toolTip() reads it
+    /// back, and CKyUIBaseView::setToolTip() is the same operation.
     void setToolTip(const QString& toolTip);
 };

@@ -51,7 +51,7 @@ public:
     /// an earlier keyword weight (a numeric weight stays, ahead of it).
     /// Interactive: a numeric weight goes too.
     void setBoldText(bool bold);
-    /// Sets the widget's tool tip.
+    /// Sets the widget's tool tip; toolTip() reads it back.
     void setToolTip(const QString& toolTip);
     /// Makes the button checkable; clicked() still carries true, unless the
     /// button is interactive.

@@ -269,3 +269,29 @@ void CKyUIBaseViewImpl::SetTextColorImpl(int red, int green, int blue)
 #endif
     SetTextBrush(widget, brush);
 }
+
+void CKyUIBaseViewImpl::SetHelpTextImpl(HelpText kind, const QString& text)
+{
+    QWidget* widget = GetWidget();
+    if (!widget)
+        return;
+    switch (kind) {
+    case HelpText::ToolTip:
+        widget->setToolTip(text);
+        break;
+    case HelpText::StatusTip:
+        widget->setStatusTip(text);
+        break;
+    case HelpText::WhatsThis:
+        widget->setWhatsThis(text);
+        break;
+    case HelpText::AccessibleName:
+        widget->setAccessibleName(text);
+        break;
+    case HelpText::AccessibleDescription:
+        widget->setAccessibleDescription(text);
+        break;
+    case HelpText::Count:
+        break;
+    }
+}
