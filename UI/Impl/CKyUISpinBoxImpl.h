@@ -2,9 +2,11 @@
 
 #include "UI/CKyUISignal.h"
 #include "UI/Impl/CKyUIBaseViewImpl.h"
+#include "UI/Impl/KySettingsStore.h"
 
 #include <QtCore/QMetaObject>
 
+#include <cmath>
 #include <type_traits>
 #include <vector>
 
@@ -47,6 +49,18 @@ public:
         SetValueImpl(m_value);
     }
     T Value() const { return m_value; }
+
+    QVariant RememberedValue() const override { return KySettingsStore::NumberValue(m_value); }
+    // Within this run's range; a whole-number field takes whole numbers only.
+    bool RestoreRememberedValue(const QVariant& value) override
+    {
+        double number = 0;
+        if (!KySettingsStore::ReadNumber(value, &number, Rounded(m_minimum), Rounded(m_maximum)) ||
+            (std::is_integral<T>::value && std::floor(number) != number))
+            return false;
+        SetValue(static_cast<T>(number));
+        return true;
+    }
 
     void SetSingleStep(T step)
     {

@@ -1,5 +1,7 @@
 #include "UI/Impl/CKyUISplitterImpl.h"
 
+#include "UI/Impl/KySettingsStore.h"
+
 CKyUISplitterImpl::CKyUISplitterImpl(CKyUIObject* owner, Qt::Orientation orientation)
     : CKyUIBaseViewImpl(owner)
     , splitterMoved(owner)
@@ -32,4 +34,19 @@ void CKyUISplitterImpl::SetChildrenCollapsible(bool collapsible)
 void CKyUISplitterImpl::OnSplitterMoved(int position, int index)
 {
     splitterMoved.Emit(position, index);
+}
+
+QVariant CKyUISplitterImpl::RememberedValue() const
+{
+    const QList<int> sizes = Sizes();
+    return sizes.isEmpty() ? QVariant() : KySettingsStore::IntListValue(sizes);
+}
+
+bool CKyUISplitterImpl::RestoreRememberedValue(const QVariant& value)
+{
+    QList<int> sizes;
+    if (!KySettingsStore::ReadIntList(value, &sizes, 0, 100000) || sizes.isEmpty())
+        return false;
+    SetSizes(sizes);
+    return true;
 }

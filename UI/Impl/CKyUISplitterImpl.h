@@ -25,6 +25,9 @@ public:
     Qt::Orientation Orientation() const { return m_orientation; }
     void SetSizes(const QList<int>& sizes);
     QList<int> Sizes() const;
+    // A splitter keeps the sizes of its views.
+    QVariant RememberedValue() const override;
+    bool RestoreRememberedValue(const QVariant& value) override;
     void SetChildrenCollapsible(bool collapsible);
     bool ChildrenCollapsible() const { return m_childrenCollapsible; }
 

@@ -98,6 +98,36 @@ bool ReadStringList(const QVariant& value, QStringList* out)
     return true;
 }
 
+bool ReadNumber(const QVariant& value, double* out, double minimum, double maximum)
+{
+    bool ok = false;
+    double number = 0;
+    switch (TypeOf(value)) {
+    case QMetaType::Int:
+    case QMetaType::LongLong:
+    case QMetaType::UInt:
+    case QMetaType::ULongLong:
+    case QMetaType::Double:
+        number = value.toDouble(&ok);
+        break;
+    case QMetaType::QString:
+        number = value.toString().toDouble(&ok);
+        break;
+    default:
+        break;
+    }
+    // NaN fails both comparisons and so is refused with the rest.
+    if (!ok || !(number >= minimum && number <= maximum))
+        return false;
+    *out = number;
+    return true;
+}
+
+QVariant NumberValue(double number)
+{
+    return QString::number(number, 'g', 17);
+}
+
 bool ReadIntList(const QVariant& value, QList<int>* out, int minimum, int maximum)
 {
     QStringList texts;

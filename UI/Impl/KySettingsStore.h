@@ -36,6 +36,10 @@ bool ReadString(const QVariant& value, QString* out);
 bool ReadStringList(const QVariant& value, QStringList* out);
 // Whole numbers within the range, as an INI file gives a list of them back:
 // texts, or one text for a list of one. IntListValue() is the form to keep.
+// A number, or text that is one, within the range. NumberValue() is the form
+// to keep: text, exact for every double.
+bool ReadNumber(const QVariant& value, double* out, double minimum, double maximum);
+QVariant NumberValue(double number);
 bool ReadIntList(const QVariant& value, QList<int>* out, int minimum, int maximum);
 QVariant IntListValue(const QList<int>& numbers);
 

@@ -2,12 +2,20 @@
 #include "support/TestDialogs.h"
 
 #include "UI/CKyUICheckBox.h"
+#include "UI/CKyUIColorButton.h"
 #include "UI/CKyUIComboBox.h"
+#include "UI/CKyUIDoubleSpinBox.h"
+#include "UI/CKyUILabel.h"
 #include "UI/CKyUIRadioButton.h"
 #include "UI/CKyUIRadioGroup.h"
 #include "UI/CKyUISettingsStore.h"
 #include "UI/CKyUISlider.h"
+#include "UI/CKyUISpinBox.h"
+#include "UI/CKyUISplitter.h"
 #include "UI/CKyUITextEdit.h"
+#include "UI/CKyUITreeView.h"
+#include "UI/Impl/CKyUIBaseViewImpl.h"
+#include "UI/Impl/KySettingsStore.h"
 #include "UI/Impl/qt/KyWindowPlacement.h"
 
 #include <QtCore/QFile>
@@ -17,6 +25,7 @@
 #include <QtGui/QScreen>
 
 #include <cstdio>
+#include <memory>
 
 namespace
 {
@@ -253,4 +262,90 @@ TEST_F(RememberTest, AWriterKilledWhileWritingLeavesAWholeVersion)
     QSettings settings(file, QSettings::IniFormat);
     const int version = settings.value("version").toInt();
     EXPECT_TRUE(settings.value("blob").toString() == QString(4 << 20, QChar('a' + version % 26)));
+}
+
+// The newer controls keep what their getters say, through an INI file as it
+// gives values back, and refuse what they cannot take.
+TEST_F(RememberTest, NewerControlsKeepTheirStateThroughTheFileAndRefuseForeignValues)
+{
+    struct Row
+    {
+        const char* control;
+        std::function<CKyUIBaseView*()> make;
+        std::function<void(CKyUIBaseView*)> choose;
+        std::function<QString(CKyUIBaseView*)> state;
+        QVariant foreign;
+    };
+    const auto spin = [] {
+        auto* box = new CKyUISpinBox;
+        box->setRange(0, 50);
+        return box;
+    };
+    const auto decimal = [] {
+        auto* box = new CKyUIDoubleSpinBox;
+        box->setRange(0, 20);
+        box->setDecimals(3);
+        return box;
+    };
+    const auto splitter = [] {
+        auto* split = new CKyUISplitter;
+        split->addView(new CKyUILabel, 1.0f);
+        split->addView(new CKyUILabel, 1.0f);
+        return split;
+    };
+    const auto tree = [] {
+        auto* view = new CKyUITreeView;
+        view->setHeaderLabels({"Parameter", "Value"});
+        return view;
+    };
+    const std::vector<Row> rows{
+        {"spin box", spin, [](CKyUIBaseView* v) { static_cast<CKyUISpinBox*>(v)->setValue(42); },
+         [](CKyUIBaseView* v) { return QString::number(static_cast<CKyUISpinBox*>(v)->value()); }, "51"},
+        {"decimal spin box", decimal,
+         [](CKyUIBaseView* v) { static_cast<CKyUIDoubleSpinBox*>(v)->setValue(12.125); },
+         [](CKyUIBaseView* v) {
+             return QString::number(static_cast<CKyUIDoubleSpinBox*>(v)->value(), 'g', 17);
+         },
+         "twelve"},
+        {"colour button", [] { return new CKyUIColorButton; },
+         [](CKyUIBaseView* v) { static_cast<CKyUIColorButton*>(v)->setColor(QColor(70, 130, 180, 200)); },
+         [](CKyUIBaseView* v) { return static_cast<CKyUIColorButton*>(v)->color().name(QColor::HexArgb); },
+         "not a colour"},
+        {"splitter", splitter,
+         [](CKyUIBaseView* v) {
+             static_cast<CKyUISplitter*>(v)->setSizes({120, 380});
+         },
+         [](CKyUIBaseView* v) {
+             return KySettingsStore::IntListValue(static_cast<CKyUISplitter*>(v)->sizes())
+                 .toStringList()
+                 .join(',');
+         },
+         QStringList{"120", "wide"}},
+        {"tree", tree,
+         [](CKyUIBaseView* v) {
+             static_cast<CKyUITreeView*>(v)->setColumnWidths({150, 90});
+         },
+         [](CKyUIBaseView* v) {
+             return KySettingsStore::IntListValue(static_cast<CKyUITreeView*>(v)->columnWidths())
+                 .toStringList()
+                 .join(',');
+         },
+         QStringList{"-5", "90"}},
+    };
+    const auto impl = [](CKyUIBaseView* view) { return static_cast<CKyUIBaseViewImpl*>(view->impl()); };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.control);
+        std::unique_ptr<CKyUIBaseView> chosen(row.make()), fresh(row.make()), untouched(row.make()),
+            refusing(row.make());
+        row.choose(chosen.get());
+        {
+            QSettings settings(file, QSettings::IniFormat);
+            settings.setValue(row.control, impl(chosen.get())->RememberedValue());
+        }
+        EXPECT_TRUE(impl(fresh.get())
+                        ->RestoreRememberedValue(QSettings(file, QSettings::IniFormat).value(row.control)));
+        EXPECT_EQ(row.state(fresh.get()), row.state(chosen.get()));
+        EXPECT_FALSE(impl(refusing.get())->RestoreRememberedValue(row.foreign));
+        EXPECT_EQ(row.state(refusing.get()), row.state(untouched.get()));
+    }
 }
