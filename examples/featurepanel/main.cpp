@@ -42,6 +42,11 @@ void Retype(const CKyUIBaseView* field, const char* text)
 // What a user does, from inside the dialog's run.
 void PlayTheUser(PadDialog& dialog)
 {
+    // Focus moves, and with it a spin box takes what was typed, only in the
+    // active window, as it would under the user's hands.
+    auto* window = qobject_cast<QWidget*>(dialog.getHandle());
+    window->activateWindow();
+    QTest::qWaitForWindowActive(window);
     QWidget* mode = WidgetOf(dialog.mode);
     mode->setFocus();
     QTest::keyClick(mode, Qt::Key_Down); // Dimension -> Two dimensions
@@ -50,7 +55,6 @@ void PlayTheUser(PadDialog& dialog)
     QWidget* reversed = WidgetOf(dialog.reversed);
     // A click on the box itself: the widget may be wider than box and text.
     QTest::mouseClick(reversed, Qt::LeftButton, Qt::NoModifier, QPoint(8, reversed->height() / 2));
-    auto* window = qobject_cast<QWidget*>(dialog.getHandle());
     for (QPushButton* button : window->findChildren<QPushButton*>()) {
         if (button->text() == QLatin1String("OK"))
             QTest::mouseClick(button, Qt::LeftButton);

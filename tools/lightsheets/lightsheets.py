@@ -20,7 +20,8 @@ DARK_TO_LIGHT = {
     "#333538": "#E2E2E2",  # disabled fields
     "#FFFFFF": "#1A1A1A",  # text
     "#000000": "#767676",  # frames
-    "#646464": "#5E5E5E",  # dimmed text, handles
+    "#646464": "#5E5E5E",  # dimmed frames, handles
+    "#9E9E9E": "#5E5E5E",  # dimmed text
     "#214B98": "#1F5CC4",  # accent, selection
 }
 ACCENT = "#214B98"
@@ -46,6 +47,9 @@ def lighten_rule(match):
             return value
         if name == "selection-color" and value == "#FFFFFF":
             return value
+        # A black background is a line (a separator): light grey, not a frame.
+        if name == "background-color" and value == "#000000":
+            return "#C4C4C4"
         return DARK_TO_LIGHT.get(value, value)
 
     lines = []
