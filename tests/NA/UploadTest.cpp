@@ -7,6 +7,8 @@
 #include <QtCore/QTemporaryDir>
 #include <QtNetwork/QHttpMultiPart>
 
+#include <functional>
+
 namespace
 {
 
@@ -57,16 +59,24 @@ TEST(Upload, JsonGoesWithItsTypeAndAParseErrorSaysWhere)
     CKyNANetworkAccessManager manager;
     CKyNANetworkRequest& typed = peer.request("/echo");
     typed.setRawHeader("Content-Type", "application/vnd.part+json");
-    const std::pair<CKyNANetworkReply*, const char*> rows[] = {
-        {manager.post(peer.request("/echo"), QJsonObject{{"n", 1}}), "POST\",\"type\":\"application/json\"}"},
-        {manager.put(typed, QJsonDocument(QJsonObject{{"n", 1}})),
+    // Each transfer starts when its row runs, so that none ends unwatched.
+    const std::pair<std::function<CKyNANetworkReply*()>, const char*> rows[] = {
+        {[&] {
+             return manager.post(peer.request("/echo"), QJsonObject{{"n", 1}});
+         },
+         "POST\",\"type\":\"application/json\"}"},
+        {[&] {
+             return manager.put(typed, QJsonDocument(QJsonObject{{"n", 1}}));
+         },
          "PUT\",\"type\":\"application/vnd.part+json\"}"},
-        {manager.post(peer.request("/307", true), QJsonObject{{"n", 1}}),
+        {[&] {
+             return manager.post(peer.request("/307", true), QJsonObject{{"n", 1}});
+         },
          "POST\",\"type\":\"application/json\"}"},
     };
     for (const auto& row : rows)
-        EXPECT_EQ(Finish(row.first), std::string("finished json:{\"json\":{\"n\":1},\"method\":\"") +
-                                         row.second + " networkError:0");
+        EXPECT_EQ(Finish(row.first()), std::string("finished json:{\"json\":{\"n\":1},\"method\":\"") +
+                                           row.second + " networkError:0");
     EXPECT_FALSE(peer.requests[1]->rawHeader("Content-Type").isValid());
     EXPECT_EQ(Finish(manager.get(peer.request("/bad-json"))),
               "finished json:9 object is missing after a comma networkError:0");
