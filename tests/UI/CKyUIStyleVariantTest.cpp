@@ -33,8 +33,9 @@ TEST(CKyUIStyleVariantTest, EachRunTakesTheChosenVariantAndFollowsTheHostsPalett
         {Variant::FollowHost, QColor(0xF0, 0xF0, 0xF0), light, "light"},
         {Variant::FollowHost, QColor(0x2D, 0x2D, 0x30), dark, "dark"},
     };
-    SampleDialog dialog;
+    // A fresh dialog each run: a second exec() leaves the first root layout behind.
     for (const auto& run : runs) {
+        SampleDialog dialog;
         CKyUIStyle::setVariant(run.chosen);
         hostWindow(run.hostWindow);
         RunModally(dialog, [&run](SampleDialog& running) {
@@ -44,6 +45,7 @@ TEST(CKyUIStyleVariantTest, EachRunTakesTheChosenVariantAndFollowsTheHostsPalett
         });
     }
     // The host turns light while the dialog runs: so does the dialog.
+    SampleDialog dialog;
     RunModally(dialog, [&](SampleDialog& running) {
         hostWindow(Qt::white);
         EXPECT_EQ(running.widget()->styleSheet(), light);
