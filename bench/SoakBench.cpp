@@ -241,6 +241,19 @@ double StatusBytes(const char* field)
     return 0;
 }
 
+// Trims the heap and resets the peak resident size to the size now, which
+// it answers: the start of a peak measured by VmHWM.
+double StartPeakWindow()
+{
+    HeapInUse();
+    const double now = StatusBytes("VmRSS:");
+    if (FILE* clear = std::fopen("/proc/self/clear_refs", "w")) {
+        std::fputs("5", clear);
+        std::fclose(clear);
+    }
+    return now;
+}
+
 void BigBody(benchmark::State& state, bool streaming)
 {
     const long long size = 100LL << 20;
@@ -250,13 +263,7 @@ void BigBody(benchmark::State& state, bool streaming)
     request.setRequestTimeout(10 * 60 * 1000);
     bool good = true;
     for (auto _ : state) {
-        HeapInUse();
-        const double before = StatusBytes("VmRSS:");
-        // Resets the peak to the resident size now.
-        if (FILE* clear = std::fopen("/proc/self/clear_refs", "w")) {
-            std::fputs("5", clear);
-            std::fclose(clear);
-        }
+        const double before = StartPeakWindow();
         QEventLoop loop;
         long long received = 0;
         CKyNANetworkReply* reply = manager.get(request);
@@ -301,12 +308,7 @@ void BigUpload(benchmark::State& state)
     request.setRequestTimeout(10 * 60 * 1000);
     bool good = true;
     for (auto _ : state) {
-        HeapInUse();
-        const double before = StatusBytes("VmRSS:");
-        if (FILE* clear = std::fopen("/proc/self/clear_refs", "w")) {
-            std::fputs("5", clear);
-            std::fclose(clear);
-        }
+        const double before = StartPeakWindow();
         QEventLoop loop;
         long long sent = 0;
         CKyNAMultipartForm form;
