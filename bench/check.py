@@ -19,8 +19,12 @@ def main(argv):
     if len(argv) != 2:
         print(__doc__.strip())
         return 2
-    with open(argv[0]) as f:
-        kept = json.load(f)
+    try:
+        with open(argv[0]) as f:
+            kept = json.load(f)
+    except FileNotFoundError:
+        print("check: no kept ratios in %s: keep a run's with scripts/bench --keep" % argv[0])
+        return 1
     with open(argv[1]) as f:
         now = json.load(f)
     worse = []
