@@ -3,11 +3,11 @@
 #include "support/Recorder.h"
 #include "support/SignalTesting.h"
 
+#include <stdexcept>
 #include <vector>
 
 // Emission and re-entrancy: what slots see while the signal changes under
-// them. The order of calls under connects, disconnects, nested emissions and
-// throwing slots is checked against a reference model in SignalModelTest.
+// them.
 
 // The test program sees Qt's keywords; the signal's operation is named emit.
 #pragma push_macro("emit")
@@ -45,6 +45,64 @@ TEST(SignalEmission, ARunningSlotKeepsItsStateWhileItsConnectsMoveTheArray)
     EXPECT_EQ(seen, (std::vector<long>{101, 110, 131}));
     EXPECT_EQ(signal.slot_count(), 65u);
     current = nullptr;
+}
+
+// What a slot of a nested emission does to the signal reaches the emission it
+// runs in: the outer one finds its slots again after a move, skips what was
+// disconnected, and the outermost one tidies up. "a" counts its runs in
+// itself, which must survive the move of the array while it runs.
+TEST(SignalEmission, WhatANestedEmissionDoesReachesTheOuterOnes)
+{
+    enum class Inner { Grow, DisconnectLater, DisconnectAll, Throw };
+    const struct
+    {
+        Inner action;
+        QStringList calls;
+        std::size_t slotsAfter;
+    } cases[] = {
+        {Inner::Grow, {"a1:0", "a2:1", "b:1", "c:1", "b:0", "c:0"}, 67},
+        {Inner::DisconnectLater, {"a1:0", "a2:1", "b:1", "b:0"}, 2},
+        {Inner::DisconnectAll, {"a1:0", "a2:1", "b:1"}, 0},
+        {Inner::Throw, {"a1:0", "a2:1", "b:1"}, 3},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.calls.join(QLatin1Char(' ')).toStdString());
+        Signal<void(int)> signal;
+        Recorder log;
+        signal.connect([&log, &signal, runs = 0](int depth) mutable {
+            log.add("a" + QString::number(++runs), depth);
+            if (depth == 0)
+                signal.emit(1);
+        });
+        signal.connect([&, action = c.action](int depth) {
+            log.add("b", depth);
+            if (depth != 1)
+                return;
+            if (action == Inner::Grow) {
+                for (int i = 0; i < 64; ++i)
+                    signal.connect([&log](int) { log.add("late"); });
+            }
+            if (action == Inner::DisconnectLater)
+                signal.disconnect(2);
+            if (action == Inner::DisconnectAll)
+                signal.disconnect_all();
+            if (action == Inner::Throw)
+                throw std::runtime_error("inner");
+        });
+        signal.connect([&log](int depth) { log.add("c", depth); });
+        if (c.action == Inner::Throw)
+            EXPECT_THROW(signal.emit(0), std::runtime_error);
+        else
+            signal.emit(0);
+        EXPECT_EQ(log.take(), c.calls);
+        EXPECT_EQ(signal.slot_count(), c.slotsAfter);
+        expectSettled(signal);
+        if (c.slotsAfter != 0) {
+            signal.emit(2);
+            EXPECT_EQ(log.lines.value(0), "a3:2");
+            EXPECT_EQ(log.count("late"), c.action == Inner::Grow ? 64 : 0);
+        }
+    }
 }
 
 // Records how a value reached a slot: the number of copies along its way.
