@@ -1,6 +1,7 @@
 #pragma once
 
 #include "NA/CKyNANetworkReply.h"
+#include "NA/Impl/qt/KyToolkitConnections.h"
 #include "UI/Impl/CKyUIObjectImpl.h"
 
 #include <QtCore/QByteArray>
@@ -154,5 +155,5 @@ private:
     std::unique_ptr<Redirects> m_redirects;
     // Cut when the reply goes away, because the toolkit reply is deleted
     // later and might still report something in between.
-    QList<QMetaObject::Connection> m_connections;
+    KyToolkitConnections m_connections;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "NA/CKyNAWebSocket.h"
+#include "NA/Impl/qt/KyToolkitConnections.h"
 #include "UI/Impl/CKyUIObjectImpl.h"
 
 #include <QtCore/QByteArray>
@@ -79,7 +80,7 @@ private:
     // Whether the connection that just ended calls for another attempt.
     bool ShouldReconnect() const;
 
-    QList<QMetaObject::Connection> m_connections;
+    KyToolkitConnections m_connections;
     int m_handshakeTimeout = 0;
     // Counts open() calls, so that a slot that opens again from inside a
     // report is not undone by what follows that report.

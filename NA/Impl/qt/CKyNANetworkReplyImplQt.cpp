@@ -203,10 +203,12 @@ void CKyNANetworkReplyImpl::ConnectNetworkReplySignalsImpl()
         },
         Qt::DirectConnection);
     // Only a client that listens can accept the errors; without one the
-    // handshake fails as it always did.
-    m_connections << QObject::connect(
-        reply, &QNetworkReply::sslErrors, reply,
-        [this](const QList<QSslError>& errors) { OnSslErrors(errors); }, Qt::DirectConnection);
+    // handshake fails as it always did. A plain transfer has no handshake (a
+    // redirect to a secure one gets a reply of its own, connected here again).
+    if (reply->url().scheme() == QLatin1String("https"))
+        m_connections << QObject::connect(
+            reply, &QNetworkReply::sslErrors, reply,
+            [this](const QList<QSslError>& errors) { OnSslErrors(errors); }, Qt::DirectConnection);
     // Should the toolkit reply die first (its manager deleted), forget it
     // rather than reach for a dangling pointer.
     m_connections << QObject::connect(reply, &QObject::destroyed, [this] {
@@ -219,9 +221,7 @@ void CKyNANetworkReplyImpl::ConnectNetworkReplySignalsImpl()
 
 void CKyNANetworkReplyImpl::DestroyNetworkReplyImpl()
 {
-    for (const QMetaObject::Connection& connection : qAsConst(m_connections))
-        QObject::disconnect(connection);
-    m_connections.clear();
+    m_connections.disconnectAll();
     if (QNetworkReply* reply = toolkitReply(owner()))
         reply->deleteLater();
     owner()->setHandle(nullptr);
@@ -459,9 +459,7 @@ void CKyNANetworkReplyImpl::ReissueImpl(QObject* toolkitReply, const QNetworkReq
     // The guard first: its stop must come before this reply's own handlers.
     if (guard)
         guard->follow(next);
-    for (const QMetaObject::Connection& connection : qAsConst(m_connections))
-        QObject::disconnect(connection);
-    m_connections.clear();
+    m_connections.disconnectAll();
     reply->deleteLater();
     owner()->setHandle(next);
     ConnectNetworkReplySignalsImpl();

@@ -88,9 +88,7 @@ void CKyNAWebSocketImpl::DestroyWebSocketImpl()
     if (!socket)
         return;
     owner()->setHandle(nullptr);
-    for (const QMetaObject::Connection& connection : qAsConst(m_connections))
-        QObject::disconnect(connection);
-    m_connections.clear();
+    m_connections.disconnectAll();
     // Destroyed from a slot of one of the socket's own reports, the toolkit
     // socket carries on with its work once the slot returns, so it cannot go
     // now: it goes on the next pass of the event loop.
