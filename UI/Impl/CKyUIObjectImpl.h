@@ -1,5 +1,7 @@
 #pragma once
 
+#include "UI/slimsig/detail/holder_ref"
+
 #include <QtCore/QMetaObject>
 #include <QtCore/QString>
 #include <QtCore/QVariant>
@@ -36,7 +38,9 @@ public:
 
     // Whether this implementation still exists, asked after calling out to
     // client slots: a slot may delete the public object, and this one with it.
-    // Cheap to copy and safe to keep after the implementation is gone.
+    // Cheap to copy and safe to keep after the implementation is gone. Kept
+    // and copied on the user-interface thread only, so its count is a plain
+    // counter: every report takes a copy.
     class Lifetime
     {
     public:
@@ -49,10 +53,10 @@ public:
             bool alive = true;
             int reporting = 0;
         };
-        explicit Lifetime(std::shared_ptr<State> state)
+        explicit Lifetime(slimsig::holder_ref<State> state)
             : m_state(std::move(state))
         {}
-        std::shared_ptr<State> m_state;
+        slimsig::holder_ref<State> m_state;
     };
 
     Lifetime GetLifetime() const { return Lifetime(m_lifetime); }
@@ -82,7 +86,7 @@ private:
 
     struct Reporting
     {
-        explicit Reporting(const std::shared_ptr<Lifetime::State>& state)
+        explicit Reporting(const slimsig::holder_ref<Lifetime::State>& state)
             : lifetime(state)
         {
             ++state->reporting;
@@ -92,7 +96,7 @@ private:
     };
 
     CKyUIObject* const m_owner;
-    const std::shared_ptr<Lifetime::State> m_lifetime = std::make_shared<Lifetime::State>();
+    const slimsig::holder_ref<Lifetime::State> m_lifetime = slimsig::make_holder<Lifetime::State>();
     std::vector<QMetaObject::Connection> m_userInputLinks;
 };
 

@@ -46,7 +46,8 @@ void PlayTheUser(PadDialog& dialog)
     // active window, as it would under the user's hands.
     auto* window = qobject_cast<QWidget*>(dialog.getHandle());
     window->activateWindow();
-    QTest::qWaitForWindowActive(window);
+    if (!QTest::qWaitForWindowActive(window))
+        qWarning("featurepanel: the dialog did not become active; the script types anyway");
     QWidget* mode = WidgetOf(dialog.mode);
     mode->setFocus();
     QTest::keyClick(mode, Qt::Key_Down); // Dimension -> Two dimensions
