@@ -29,7 +29,8 @@ public:
     }
 
 private:
-    // A reply makes seven, a socket nine.
+    // A reply makes six or seven, a few more when it streams, follows
+    // redirects or retries; a socket nine.
     static constexpr std::size_t ExpectedCount = 9;
 
     std::vector<QMetaObject::Connection> m_connections;
