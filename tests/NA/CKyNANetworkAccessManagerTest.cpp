@@ -135,6 +135,8 @@ TEST_F(NetworkAccessManager, PostPutAndDeleteReachTheServerAsSent)
 }
 
 // A reply left behind by its manager does not reach for the gone toolkit reply.
+// A reply deleted in its own finished slot leaves its toolkit reply, which is
+// still reporting, to the event loop.
 TEST_F(NetworkAccessManager, ToolkitObjectsAreReleasedManagerAtOnceReplyLater)
 {
     auto* owned = new CKyNANetworkAccessManager;
@@ -147,7 +149,12 @@ TEST_F(NetworkAccessManager, ToolkitObjectsAreReleasedManagerAtOnceReplyLater)
     QPointer<QObject> toolkitReply = reply->getHandle();
     ASSERT_TRUE(qobject_cast<QNetworkReply*>(toolkitReply));
 
-    delete reply;
+    bool toolkitReplyOutlivedTheSlot = false;
+    reply->finished().connect([&] {
+        delete reply;
+        toolkitReplyOutlivedTheSlot = !toolkitReply.isNull();
+    });
+    ASSERT_TRUE(waitUntil([&] { return toolkitReplyOutlivedTheSlot; }));
     EXPECT_FALSE(toolkitReply.isNull());
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_TRUE(toolkitReply.isNull());
