@@ -150,9 +150,12 @@ TEST_F(NetworkAccessManager, ToolkitObjectsAreReleasedManagerAtOnceReplyLater)
     ASSERT_TRUE(qobject_cast<QNetworkReply*>(toolkitReply));
 
     bool toolkitReplyOutlivedTheSlot = false;
-    reply->finished().connect([&] {
+    reply->finished().connect([reply, &toolkitReply, &toolkitReplyOutlivedTheSlot] {
+        // The captures go with the reply.
+        const QPointer<QObject>* watched = &toolkitReply;
+        bool* outlived = &toolkitReplyOutlivedTheSlot;
         delete reply;
-        toolkitReplyOutlivedTheSlot = !toolkitReply.isNull();
+        *outlived = !watched->isNull();
     });
     ASSERT_TRUE(waitUntil([&] { return toolkitReplyOutlivedTheSlot; }));
     EXPECT_FALSE(toolkitReply.isNull());
